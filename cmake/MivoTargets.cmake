@@ -1,0 +1,50 @@
+# The three kinds of target that Mivo is made of, so that each folder's CMakeLists.txt only says
+# what is in the folder and which folders lie below it.
+
+# Carries the warnings, the sanitizers and the floating-point rule to every target of ours.
+add_library(mivo_build_flags INTERFACE)
+target_compile_options(
+  mivo_build_flags
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            # Fused multiply-add would make hit tests differ from compiler to compiler.
+            -ffp-contract=off)
+if(MIVO_WERROR)
+  target_compile_options(mivo_build_flags INTERFACE -Werror)
+endif()
+if(MIVO_SANITIZE)
+  set(_mivo_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all
+                       -fno-omit-frame-pointer)
+  target_compile_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
+  target_link_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
+endif()
+
+# mivo_library(NAME SOURCES <cpp...> HEADERS <h...> LINK <targets...>)
+#
+# A folder of src/ as a static library. Its include path is the folder itself and is passed on only
+# to those who link it, so an include that reaches upwards does not compile.
+function(mivo_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS;LINK;PRIVATE_LINK" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES
+                                ${ARG_HEADERS})
+  set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${MIVO_DEVELOPER})
+  target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE mivo_build_flags ${ARG_PRIVATE_LINK})
+endfunction()
+
+# mivo_test(NAME SOURCES <cpp...> LINK <targets...>)
+#
+# One GoogleTest executable per source folder, linked to that folder's library only, so that a test
+# cannot quietly come to need an upper layer.
+function(mivo_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_build_flags GTest::gmock GTest::gtest_main)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST)
+endfunction()

@@ -1,0 +1,68 @@
+#ifndef MIVO_MODEL_BIT_PATTERN_H
+#define MIVO_MODEL_BIT_PATTERN_H
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "geometry.h"
+#include "record_reader.h"
+#include "record_writer.h"
+
+namespace mivo {
+
+/// The bytes of a monochrome image: rows from the top down, each a whole number of 16-bit words,
+/// the most significant bit of a byte leftmost. A set bit is a drawn pixel; bits beyond the width
+/// are 0. The size belongs to the pattern around it (SPtn); no size beyond kMaxSide is stored in
+/// full.
+class SBitPattern {
+ public:
+  /// Pattern area of a component of 50 cells: columns and rows beyond it are not stored.
+  static constexpr std::int32_t kMaxSide = 501;
+  /// All bit patterns of one load together; see BitPatternBudget.
+  static constexpr std::int64_t kMaxTotalBytes = std::int64_t{1} << 30;
+
+  /// An image of `size` pixels with no bit set. Its rows have the stride of the width as it is
+  /// stored, while the byte count follows the size as it is declared.
+  explicit SBitPattern(SPoint size) : bytes_(static_cast<std::size_t>(ByteCount(size))) {}
+
+  /// Bytes from one row to the next for an image `width` pixels wide (at most kMaxSide are stored).
+  [[nodiscard]] static std::int32_t Stride(std::int32_t width) noexcept;
+  /// ((width + 15) ÷ 16) × height × 2 for a positive size, else 0.
+  [[nodiscard]] static std::int64_t ByteCount(SPoint size) noexcept;
+
+  [[nodiscard]] const std::vector<std::uint8_t>& Bytes() const noexcept { return bytes_; }
+  [[nodiscard]] std::vector<std::uint8_t>& Bytes() noexcept { return bytes_; }
+
+  /// A copy for another size: the overlap is kept, pixels beyond the new width are cleared.
+  [[nodiscard]] SBitPattern Resized(SPoint oldSize, SPoint newSize) const;
+
+  /// Reads the fields behind "+BMP" of a pattern of `size`; nothing when the record is malformed.
+  [[nodiscard]] static std::optional<SBitPattern> Read(SRecordReader& reader, SPoint size);
+  /// Writes the whole record.
+  void Write(SRecordWriter& writer, SPoint size) const;
+
+  bool operator==(const SBitPattern&) const = default;
+
+ private:
+  std::vector<std::uint8_t> bytes_;
+};
+
+/// How many bytes of bit patterns a load may still declare. A short file can declare any size, so
+/// one load as a whole is held to SBitPattern::kMaxTotalBytes.
+class BitPatternBudget {
+ public:
+  /// Takes `bytes` off; false, with nothing taken, when they are not left.
+  [[nodiscard]] bool Take(std::int64_t bytes) noexcept {
+    if (bytes > left_) return false;
+    left_ -= bytes;
+    return true;
+  }
+
+ private:
+  std::int64_t left_ = SBitPattern::kMaxTotalBytes;
+};
+
+}  // namespace mivo
+
+#endif

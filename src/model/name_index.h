@@ -1,0 +1,70 @@
+#ifndef MIVO_MODEL_NAME_INDEX_H
+#define MIVO_MODEL_NAME_INDEX_H
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace mivo {
+
+class SComponent;
+
+/// A name under which a component is listed: its own name or an alias, which are entries of the
+/// same kind. Renaming goes through NameIndex::Rename, which keeps the index true.
+class NameEntry {
+ public:
+  NameEntry(std::u16string name, SComponent* component)
+      : name_(std::move(name)), component_(component) {}
+
+  [[nodiscard]] const std::u16string& Name() const noexcept { return name_; }
+  /// Never null; owned by the library.
+  [[nodiscard]] SComponent* Component() const noexcept { return component_; }
+
+ private:
+  friend class NameIndex;
+  std::u16string name_;
+  SComponent* component_;
+};
+
+/// The name entries of a library in the order in which they were added, found by name in constant
+/// time. Entries keep their address until they are removed.
+class NameIndex {
+ public:
+  /// Attempts of UniqueName.
+  static constexpr std::int32_t kMaxAttempts = 4096;
+
+  /// The first entry with exactly this name; null when there is none.
+  [[nodiscard]] NameEntry* Find(std::u16string_view name) const;
+
+  /// `name` when no entry has it, otherwise the first free of name(1), name(2), … (counting on from
+  /// a number in parentheses at its end). After kMaxAttempts the last candidate is returned as it
+  /// is, taken or not.
+  [[nodiscard]] std::u16string UniqueName(std::u16string_view name);
+
+  /// Appends an entry; the name is taken as it is.
+  NameEntry* Add(std::u16string name, SComponent* component);
+  void Rename(NameEntry& entry, std::u16string name);
+  void Remove(NameEntry& entry);
+  void Clear();
+
+  [[nodiscard]] const std::vector<std::unique_ptr<NameEntry>>& Entries() const noexcept {
+    return entries_;
+  }
+
+ private:
+  std::int32_t FirstFree(std::u16string_view base, std::int32_t start);
+
+  std::vector<std::unique_ptr<NameEntry>> entries_;
+  // The first entry of each name; the views point into the entries.
+  std::unordered_map<std::u16string_view, NameEntry*> byName_;
+  // For each base name: a number of which base(number) is known to be taken, and a later number
+  // with which the search may go on. Only additions keep this true.
+  std::unordered_map<std::u16string, std::unordered_map<std::int32_t, std::int32_t>> taken_;
+};
+
+}  // namespace mivo
+
+#endif

@@ -1,0 +1,169 @@
+#include "record_reader.h"
+
+#include <algorithm>
+#include <limits>
+#include <span>
+
+#include "integer.h"
+#include "number_text.h"
+#include "text_encoding.h"
+
+namespace mivo {
+namespace {
+
+constexpr std::size_t kPieceBytes = std::size_t{1} << 16;
+constexpr std::size_t kFindingTextLength = 80;
+
+bool EndsField(char16_t c) {
+  return c == u',' || c == u'\n' || c == u'\r';
+}
+
+}  // namespace
+
+void SRecordReader::AttachString(std::u16string_view text) {
+  source_ = nullptr;
+  Start(text.data(), text.data() + text.size());
+}
+
+void SRecordReader::AttachFile(ByteSource& source, ByteDecoding decoding) {
+  source_ = &source;
+  decoding_ = decoding;
+  bytes_.clear();
+  if (!window_) window_ = std::make_unique<char16_t[]>(kPieceBytes);
+  Start(window_.get(), window_.get());
+}
+
+void SRecordReader::Start(const char16_t* begin, const char16_t* end) {
+  windowBegin_ = current_ = begin;
+  end_ = end;
+  attached_ = true;
+  line_ = 1;
+  windowOffset_ = lineOffset_ = 0;
+}
+
+bool SRecordReader::Refill() {
+  if (source_ == nullptr) return false;
+  const std::size_t kept = bytes_.size();
+  bytes_.resize(kPieceBytes);
+  const std::size_t got = source_->Read(std::span(bytes_).subspan(kept));
+  bytes_.resize(kept + got);
+  const bool last = got == 0;
+  if (bytes_.empty()) return false;
+
+  DecodeProgress progress{bytes_.size(), bytes_.size()};
+  if (decoding_ == ByteDecoding::Utf8) {
+    progress = DecodeUtf8(bytes_, std::span(window_.get(), kPieceBytes), last);
+  } else {
+    std::transform(bytes_.begin(), bytes_.end(), window_.get(),
+                   [](char byte) { return static_cast<char16_t>(static_cast<signed char>(byte)); });
+  }
+  bytes_.erase(0, progress.bytesRead);
+  windowOffset_ += end_ - windowBegin_;
+  windowBegin_ = current_ = window_.get();
+  end_ = current_ + progress.unitsWritten;
+  // A few bytes of a cut-off character decode to nothing until the rest of it has been read.
+  return progress.unitsWritten > 0 || Refill();
+}
+
+inline char16_t SRecordReader::GetCharacter() {
+  if (current_ == end_ && !Refill()) return kEndCharacter;
+  const char16_t c = *current_;
+  if (c == u'\0') return kEndCharacter;  // and stays there: a NUL ends the data for good
+  ++current_;
+  return c;
+}
+
+void SRecordReader::CountLine() noexcept {
+  line_ = WrapAdd(line_, 1);
+  lineOffset_ = windowOffset_ + (current_ - windowBegin_);
+}
+
+FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
+  field = {};
+  if (!attached_) {
+    scratch_.assign(kMaxFieldLength, u'\0');
+    field = scratch_;
+    return FieldStatus::Ok;
+  }
+  for (;;) {
+    const char16_t c = GetCharacter();
+    if (c == kEndCharacter) return FieldStatus::End;
+    if (c == u'\n') {
+      CountLine();
+    } else if (c != u' ' && c != u'\t' && c != u'\r') {
+      break;
+    }
+  }
+  const char16_t* const start = --current_;
+  fieldLine_ = line_;
+  fieldColumn_ = windowOffset_ + (start - windowBegin_) - lineOffset_ + 1;
+
+  // Most fields are a stretch of the characters at hand; only an escape, an over-long field and one
+  // cut by the end of the window are collected character by character.
+  const char16_t* const limit =
+      start + std::min<std::ptrdiff_t>(end_ - start, static_cast<std::ptrdiff_t>(kMaxFieldLength));
+  for (const char16_t* p = start; p < limit; ++p) {
+    const char16_t c = *p;
+    if (c > u',') continue;
+    if (EndsField(c)) {
+      field = {start, static_cast<std::size_t>(p - start)};
+      current_ = p + 1;
+      if (c == u'\n') CountLine();
+      return FieldStatus::Ok;
+    }
+    if (c == u'%' || c == u'\0') break;
+  }
+  return CollectIntoScratch(field);
+}
+
+FieldStatus SRecordReader::CollectIntoScratch(std::u16string_view& field) {
+  scratch_.clear();
+  char16_t c = GetCharacter();
+  while (!EndsField(c) && scratch_.size() < kMaxFieldLength) {
+    if (c == u'%') {
+      if (!AppendEscape()) return FieldStatus::End;
+    } else {
+      scratch_.push_back(c);
+    }
+    c = GetCharacter();
+  }
+  if (c == u'\n') CountLine();
+  field = scratch_;
+  return FieldStatus::Ok;
+}
+
+bool SRecordReader::AppendEscape() {
+  bool complete = true;
+  char16_t pair[2];
+  for (char16_t& c : pair) {
+    c = GetCharacter();
+    if (c == u'\n') CountLine();
+    if (EndsField(c)) complete = false;
+  }
+  if (complete) scratch_.push_back(static_cast<char16_t>(ParseHex({pair, 2})));
+  return complete;
+}
+
+FieldStatus SRecordReader::SkipToField(std::u16string_view wanted) {
+  std::u16string_view field;
+  FieldStatus status;
+  do {
+    status = ReadField(field);
+  } while (status == FieldStatus::Ok && field != wanted);
+  return status;
+}
+
+FieldStatus SRecordReader::SkipRecord(std::u16string_view openingTag) {
+  std::u16string closingTag(openingTag);
+  closingTag.front() = u'-';
+  return SkipToField(closingTag);
+}
+
+void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
+  if (sink_ == nullptr) return;
+  constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
+  sink_->Report({kind, fieldLine_, static_cast<std::int32_t>(std::min(fieldColumn_, kLargest)),
+                 std::u16string(record_), std::u16string(text.substr(0, kFindingTextLength))});
+}
+
+}  // namespace mivo
