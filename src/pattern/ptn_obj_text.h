@@ -56,8 +56,8 @@ class SPtnObjText final : public SPtnObj {
   void SetFontSize(std::int32_t size);
   void SetBold(bool on);
   void SetItalic(bool on);
-  /// Called by the drawing routine with the drawn width and height in component units.
-  void SetExtent(std::int32_t width, std::int32_t height);
+  /// Called by the drawing routine with what it drew, in component units.
+  void SetExtent(std::int32_t drawnWidth, std::int32_t drawnHeight);
 
   [[nodiscard]] SPoint Position() const noexcept { return position_; }
   [[nodiscard]] bool IsHorizontal() const noexcept { return horizontal_; }

@@ -15,11 +15,19 @@ std::string_view MessageOf(FindingKind kind) noexcept {
     case FindingKind::ValueIgnored:
       return "value out of range is ignored";
     case FindingKind::SurplusValue:
-      return "surplus value is ignored";
+      return "more values than the record has room for";
     case FindingKind::UnknownRecord:
       return "unknown record is skipped";
+    case FindingKind::VertexDropped:
+      return "repeated vertex of a polygon is dropped";
     case FindingKind::ObjectDropped:
       return "drawing object cannot be read and is dropped";
+    case FindingKind::ObjectClosedWrongly:
+      return "closing tag does not belong to the drawing object";
+    case FindingKind::ObjectIncomplete:
+      return "drawing object is closed before it is complete";
+    case FindingKind::ObjectValueInvalid:
+      return "invalid value in a drawing object";
     case FindingKind::BitPatternSkipped:
       return "bit pattern before the name and size of its pattern is skipped";
     case FindingKind::PatternMissing:

@@ -11,16 +11,20 @@ namespace mivo {
 /// their own rules; a finding only says what happened, to whoever wants to know.
 enum class FindingKind {
   // What was left out. The rest of the data was read.
-  FieldWithoutValue,   ///< a field that is neither a tag nor "KEY:value"
-  UnknownKey,          ///< a key that the record does not know
-  ValueIgnored,        ///< a value out of the range that the key allows
-  SurplusValue,        ///< more values than the record has room for
-  UnknownRecord,       ///< a record of unknown kind, skipped
-  ObjectDropped,       ///< a drawing object whose record could not be read
-  BitPatternSkipped,   ///< a bit pattern that stands before the name or the size of its pattern
-  PatternMissing,      ///< a component names a pattern that has not been read
-  AliasTargetMissing,  ///< an alias of a name that has not been read
-  DataCutOff,          ///< the data end inside an open record or library block
+  FieldWithoutValue,    ///< a field that is neither a tag nor "KEY:value"
+  UnknownKey,           ///< a key that the record does not know
+  ValueIgnored,         ///< a value out of the range that the key allows
+  SurplusValue,         ///< more values than the record has room for
+  UnknownRecord,        ///< a record of unknown kind, skipped
+  VertexDropped,        ///< a polygon vertex that repeats the one before or closes the polygon
+  ObjectDropped,        ///< a drawing object whose record could not be read
+  ObjectClosedWrongly,  ///< why: a closing tag that is not the object's
+  ObjectIncomplete,     ///< why: the record is closed before all that it must hold was read
+  ObjectValueInvalid,   ///< why: a value that the object cannot live with
+  BitPatternSkipped,    ///< a bit pattern that stands before the name or the size of its pattern
+  PatternMissing,       ///< a component names a pattern that has not been read
+  AliasTargetMissing,   ///< an alias of a name that has not been read
+  DataCutOff,           ///< the data end inside an open record or library block
 
   // What was changed while it was read.
   NameChanged,      ///< a name that was taken already
