@@ -1,4 +1,4 @@
-# The three kinds of target that Mivo is made of, so that each folder's CMakeLists.txt only says
+# The kinds of target that Mivo is made of, so that each folder's CMakeLists.txt only says
 # what is in the folder and which folders lie below it.
 
 # Carries the warnings, the sanitizers and the floating-point rule to every target of ours.
@@ -21,6 +21,7 @@ if(MIVO_SANITIZE)
   set(_mivo_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all
                        -fno-omit-frame-pointer)
   target_compile_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
+  target_compile_definitions(mivo_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
 endif()
 
@@ -40,11 +41,28 @@ endfunction()
 # mivo_test(NAME SOURCES <cpp...> LINK <targets...>)
 #
 # One GoogleTest executable per source folder, linked to that folder's library only, so that a test
-# cannot quietly come to need an upper layer.
+# cannot quietly come to need an upper layer. It runs in an environment of its own (tests/support).
 function(mivo_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_build_flags GTest::gmock GTest::gtest_main)
+  target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_test_support mivo_build_flags GTest::gmock
+                                        GTest::gtest_main)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  gtest_discover_tests(${name} TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST)
+  gtest_discover_tests(
+    ${name}
+    TEST_PREFIX ${name}.
+    DISCOVERY_MODE PRE_TEST
+    DISCOVERY_TIMEOUT 120
+    PROPERTIES TIMEOUT 300)
+endfunction()
+
+# mivo_benchmark(NAME SOURCES <cpp...> LINK <targets...>)
+#
+# A Google Benchmark executable that script/bench builds and runs.
+function(mivo_benchmark name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_build_flags benchmark::benchmark_main)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
+  add_dependencies(mivo_benchmarks ${name})
 endfunction()
