@@ -14,9 +14,11 @@ namespace mivo {
 
 enum class PinSide : std::int8_t { Left = 0, Top = 1, Right = 2, Bottom = 3 };
 
-/// Place on the body outline. `offset` counts grid cells, 0 to 255, from the top of the left and
-/// right side and from the left end of the top and bottom side.
+/// Place on the body outline. `offset` counts grid cells, 0 to kMaxOffset, from the top of the left
+/// and right side and from the left end of the top and bottom side.
 struct SPinLocation {
+  static constexpr std::int32_t kMaxOffset = 255;
+
   PinSide side = PinSide::Left;
   std::int32_t offset = 0;
   bool operator==(const SPinLocation&) const = default;
