@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "geometry.h"
@@ -32,7 +33,13 @@ class SBitPattern {
   [[nodiscard]] static std::int64_t ByteCount(SPoint size) noexcept;
 
   [[nodiscard]] const std::vector<std::uint8_t>& Bytes() const noexcept { return bytes_; }
-  [[nodiscard]] std::vector<std::uint8_t>& Bytes() noexcept { return bytes_; }
+
+  /// The stored bytes of row `y` of an image `width` pixels wide: without the row's padding word
+  /// bytes, shorter or empty where nothing is stored. The size of a pattern read from a file need
+  /// not be the one that its bit pattern was read for.
+  [[nodiscard]] std::span<const std::uint8_t> Row(std::int32_t width,
+                                                  std::int32_t y) const noexcept;
+  [[nodiscard]] std::span<std::uint8_t> Row(std::int32_t width, std::int32_t y) noexcept;
 
   /// A copy for another size: the overlap is kept, pixels beyond the new width are cleared.
   [[nodiscard]] SBitPattern Resized(SPoint oldSize, SPoint newSize) const;

@@ -88,6 +88,9 @@ class SComponent {
   std::u16string package;
 
  private:
+  struct PendingRecord;
+  bool ReadKeyedField(SRecordReader& reader, std::u16string_view field, PendingRecord& pending);
+
   std::vector<SCompPin> pins_;
   std::shared_ptr<SPtn> pattern_;
   SPoint size_;

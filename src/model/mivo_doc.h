@@ -27,6 +27,7 @@ class SMivoDoc {
   static constexpr std::int32_t kFirstUtf8Version = 71;
 
   static constexpr std::u16string_view kLibraryTag = u"+TARSL_LIB_V.1.0";
+  static constexpr std::u16string_view kLibraryEndTag = u"-TARSL_LIB_V.1.0";
   static constexpr std::u16string_view kSchematicTag = u"+TARSL_DATA_V.1.0";
 
   /// Deletes all components, entries and the path. The property text and the version stay.

@@ -55,13 +55,16 @@ class NameIndex {
   }
 
  private:
+  /// The first number behind `start` with which `base` is free.
   std::int32_t FirstFree(std::u16string_view base, std::int32_t start);
+  /// Takes the entry's name out of the search structures.
+  void Forget(const NameEntry& entry);
 
   std::vector<std::unique_ptr<NameEntry>> entries_;
   // The first entry of each name; the views point into the entries.
   std::unordered_map<std::u16string_view, NameEntry*> byName_;
-  // For each base name: a number of which base(number) is known to be taken, and a later number
-  // with which the search may go on. Only additions keep this true.
+  // For each base name: numbers with which the name is known to be taken, each with a later number
+  // that may be free; everything between the two is taken as well. Only additions keep this true.
   std::unordered_map<std::u16string, std::unordered_map<std::int32_t, std::int32_t>> taken_;
 };
 

@@ -33,6 +33,9 @@ class PackedTexts {
   bool operator==(const PackedTexts& other) const = default;
 
  private:
+  // Keeps equal contents equal in representation: nothing absent is stored at the end.
+  void DropAbsentTail();
+
   // Per slot up to the last present one: two units with the text's length + 1 (0 when absent), then
   // the text.
   std::u16string packed_;

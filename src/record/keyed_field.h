@@ -24,8 +24,7 @@ enum class EmptyValue { Allowed, Refused };
   return KeyedField{field.substr(0, colon), field.substr(colon + 1)};
 }
 
-/// The text up to its first NUL. An escape can put a NUL into a field, but names and texts never
-/// hold one: everything behind it would be lost at the next save.
+/// The text up to its first NUL.
 [[nodiscard]] constexpr std::u16string_view UpToNul(std::u16string_view text) noexcept {
   return text.substr(0, text.find(u'\0'));
 }

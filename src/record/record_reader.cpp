@@ -5,6 +5,7 @@
 #include <span>
 
 #include "integer.h"
+#include "keyed_field.h"
 #include "number_text.h"
 #include "text_encoding.h"
 
@@ -164,6 +165,12 @@ void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
   constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
   sink_->Report({kind, fieldLine_, static_cast<std::int32_t>(std::min(fieldColumn_, kLargest)),
                  std::u16string(record_), std::u16string(text.substr(0, kFindingTextLength))});
+}
+
+std::u16string_view SRecordReader::TextValue(std::u16string_view value) {
+  const std::u16string_view text = UpToNul(value);
+  if (text.size() < value.size()) Report(FindingKind::TextCutAtNul, text);
+  return text;
 }
 
 }  // namespace mivo

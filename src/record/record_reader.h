@@ -66,6 +66,10 @@ class SRecordReader {
   /// Reports a finding at the field read last.
   void Report(FindingKind kind, std::u16string_view text);
 
+  /// The value of a name or text: up to its first NUL, which an escape can put into a field. Names
+  /// and texts never hold one, since everything behind it would be lost at the next save.
+  [[nodiscard]] std::u16string_view TextValue(std::u16string_view value);
+
   /// Marks a record as open for as long as it lives, so that findings name the record around them.
   class RecordScope {
    public:

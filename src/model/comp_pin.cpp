@@ -1,0 +1,144 @@
+#include "comp_pin.h"
+
+#include <array>
+
+#include "keyed_field.h"
+#include "number_text.h"
+
+namespace mivo {
+namespace {
+
+constexpr std::u16string_view kSideLetters = u"LTRB";
+
+struct TypeLetter {
+  char16_t letter;
+  std::int32_t bit;
+};
+
+/// In the order in which they are written.
+constexpr std::array<TypeLetter, 5> kTypeLetters = {{{u'Z', SCompPin::kShapeZ},
+                                                     {u'S', SCompPin::kShapeS},
+                                                     {u'N', SCompPin::kNegation},
+                                                     {u'C', SCompPin::kClock},
+                                                     {u'm', SCompPin::kHideNumber}}};
+
+std::int32_t TypeFromLetters(SRecordReader& reader, std::u16string_view letters) {
+  std::int32_t type = 0;
+  bool allKnown = true;
+  for (const char16_t c : letters) {
+    bool known = false;
+    for (const TypeLetter& entry : kTypeLetters) {
+      if (entry.letter != c) continue;
+      type |= entry.bit;
+      known = true;
+    }
+    allKnown = allKnown && known;
+  }
+  if (!allKnown) reader.Report(FindingKind::ValueIgnored, letters);
+  return type;
+}
+
+void ReadLocation(SRecordReader& reader, std::u16string_view value, SPinLocation& location) {
+  if (value.empty()) return;
+  const std::size_t side = kSideLetters.find(value.front());
+  const std::int32_t offset = ParseInt(value.substr(1));
+  const bool offsetValid = offset >= 0 && offset <= 255;
+  if (side != std::u16string_view::npos) location.side = static_cast<PinSide>(side);
+  if (offsetValid) location.offset = offset;
+  if (side == std::u16string_view::npos || !offsetValid) {
+    reader.Report(FindingKind::ValueIgnored, value);
+  }
+}
+
+}  // namespace
+
+std::u16string PinNameFromDisplayText(std::u16string_view text) {
+  std::u16string name;
+  for (std::size_t i = 0; i < text.size() && name.size() < SCompPin::kMaxNameLength; ++i) {
+    if (text[i] != u'\\') {
+      name.push_back(text[i]);
+    } else if (++i < text.size()) {
+      name.push_back(static_cast<char16_t>(text[i] | SCompPin::kOverline));
+    }
+  }
+  return name;
+}
+
+std::u16string PinNameToDisplayText(std::u16string_view name) {
+  std::u16string text;
+  for (const char16_t c : name) {
+    if ((c & SCompPin::kOverline) != 0) text.push_back(u'\\');
+    text.push_back(static_cast<char16_t>(c & 0x7F));
+  }
+  return text;
+}
+
+std::u16string SCompPin::DisplayName() const {
+  return PinNameToDisplayText(name_);
+}
+
+void SCompPin::SetNameFromDisplayText(std::u16string_view text) {
+  name_ = PinNameFromDisplayText(text);
+}
+
+bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
+  const SRecordReader::RecordScope scope(reader, u"+PIN");
+  *this = SCompPin(blockCount);
+  std::int32_t nextNumber = 0;
+  std::u16string_view field;
+  while (reader.ReadField(field) == FieldStatus::Ok) {
+    if (field == u"-PIN") return true;
+    if (field.starts_with(u'-')) {
+      reader.Report(FindingKind::WrongClosingTag, field);
+      return false;
+    }
+    if (field.starts_with(u'+')) {
+      reader.Report(FindingKind::UnknownRecord, field);
+      if (reader.SkipRecord(field) == FieldStatus::Ok) continue;
+      reader.Report(FindingKind::UnclosedRecord, u"+PIN");
+      return false;
+    }
+    const std::optional<KeyedField> keyed = SplitKeyedField(field, EmptyValue::Allowed);
+    if (!keyed) {
+      reader.Report(FindingKind::FieldWithoutValue, field);
+    } else if (keyed->key == u"N") {
+      SetNameFromDisplayText(reader.TextValue(keyed->value));
+    } else if (keyed->key == u"DF") {
+      nameMask = ParseHex(keyed->value);
+    } else if (keyed->key == u"L") {
+      ReadLocation(reader, keyed->value, location);
+    } else if (keyed->key == u"T") {
+      type = TypeFromLetters(reader, keyed->value);
+    } else if (keyed->key == u"M") {
+      if (nextNumber < blockCount) {
+        numbers_.Set(nextNumber++, reader.TextValue(keyed->value));
+      } else {
+        reader.Report(FindingKind::SurplusValue, field);
+      }
+    } else {
+      reader.Report(FindingKind::UnknownKey, field);
+    }
+  }
+  reader.Report(FindingKind::DataCutOff, u"+PIN");
+  return true;
+}
+
+bool SCompPin::Write(SRecordWriter& writer) const {
+  std::u16string place(1, kSideLetters[static_cast<std::size_t>(location.side)]);
+  place.append(IntText(location.offset));
+  std::u16string letters;
+  for (const TypeLetter& entry : kTypeLetters) {
+    if ((type & entry.bit) != 0) letters.push_back(entry.letter);
+  }
+  writer.WriteField(u"+PIN");
+  writer.WriteText(u"N", DisplayName());
+  writer.WriteHex(u"DF", nameMask);
+  writer.WriteText(u"L", place);
+  writer.WriteText(u"T", letters);
+  for (std::int32_t block = 0; block < NumberCount(); ++block) {
+    writer.WriteText(u"M", GetNumber(block).value_or(u""));
+  }
+  return writer.WriteField(u"-PIN") == FieldStatus::Ok;
+}
+
+}  // namespace mivo

@@ -1,0 +1,128 @@
+#include "library_reader.h"
+
+#include "keyed_field.h"
+
+namespace mivo {
+
+bool LibraryReader::ReadBody(SMivoDoc::BodyExtent extent) {
+  std::u16string_view field;
+  while (reader_.ReadField(field) == FieldStatus::Ok) {
+    if (field.starts_with(u'-')) {
+      if (field != SMivoDoc::kLibraryEndTag) {
+        reader_.Report(FindingKind::WrongClosingTag, field);
+        return false;
+      }
+      patterns_.clear();
+      if (reader_.SkipToField(SMivoDoc::kLibraryTag) != FieldStatus::Ok) return true;
+    } else if (!field.starts_with(u'+')) {
+      ReadKeyedField(field);
+    } else if (field == u"+PTN") {
+      if (!ReadPattern()) return false;
+    } else if (field == u"+COMP") {
+      if (!ReadComponent()) return false;
+      if (extent == SMivoDoc::BodyExtent::FirstComponent) return true;
+    } else if (field == u"+ALIAS") {
+      if (!ReadAlias()) return false;
+    } else {
+      reader_.Report(FindingKind::UnknownRecord, field);
+      if (reader_.SkipRecord(field) != FieldStatus::Ok) {
+        reader_.Report(FindingKind::UnclosedRecord, u"");
+        return false;
+      }
+    }
+  }
+  reader_.Report(FindingKind::DataCutOff, SMivoDoc::kLibraryTag);
+  return true;
+}
+
+void LibraryReader::ReadKeyedField(std::u16string_view field) {
+  const auto keyed = SplitKeyedField(field, EmptyValue::Allowed);
+  if (!keyed) {
+    reader_.Report(FindingKind::FieldWithoutValue, field);
+  } else if (keyed->key == u"PROP") {
+    doc_.property = reader_.TextValue(keyed->value);
+  } else if (keyed->key != u"VER") {
+    reader_.Report(FindingKind::UnknownKey, field);
+  }
+}
+
+bool LibraryReader::ReadPattern() {
+  auto pattern = std::make_shared<SPtn>();
+  if (!pattern->Read(reader_, bitPatternBudget_)) return false;
+  // Components name a pattern; one without a name is out of reach.
+  std::u16string name = pattern->name;
+  if (!name.empty()) patterns_.emplace(std::move(name), std::move(pattern));
+  return true;
+}
+
+bool LibraryReader::ReadComponent() {
+  auto component = std::make_unique<SComponent>();
+  SComponent::RecordNames names;
+  if (!component->Read(reader_, names)) return false;
+  if (!names.patternName.empty()) {
+    const auto pattern = patterns_.find(names.patternName);
+    if (pattern != patterns_.end()) {
+      component->SharePattern(pattern->second);
+    } else {
+      reader_.Report(FindingKind::PatternMissing, names.patternName);
+    }
+  }
+  const bool listedBefore = doc_.Names().Find(names.name) != nullptr;
+  const NameEntry* const entry = doc_.AddComponent(std::move(component), names.name);
+  if (listedBefore) ReportRenamed(*entry);
+  return true;
+}
+
+bool LibraryReader::ReadAlias() {
+  const SRecordReader::RecordScope scope(reader_, u"+ALIAS");
+  std::u16string target;
+  std::u16string alias;
+  std::u16string_view field;
+  bool closed = false;
+  while (!closed && reader_.ReadField(field) == FieldStatus::Ok) {
+    if (field.starts_with(u'-')) {
+      if (field != u"-ALIAS") {
+        reader_.Report(FindingKind::WrongClosingTag, field);
+        return false;
+      }
+      closed = true;
+    } else if (field.starts_with(u'+')) {
+      reader_.Report(FindingKind::UnknownRecord, field);
+      if (reader_.SkipRecord(field) != FieldStatus::Ok) {
+        reader_.Report(FindingKind::UnclosedRecord, u"+ALIAS");
+        return false;
+      }
+    } else if (const auto keyed = SplitKeyedField(field, EmptyValue::Refused); !keyed) {
+      reader_.Report(FindingKind::FieldWithoutValue, field);
+    } else if (keyed->key == u"N") {
+      target = reader_.TextValue(keyed->value);
+    } else if (keyed->key == u"A") {
+      alias = reader_.TextValue(keyed->value);
+    } else {
+      reader_.Report(FindingKind::UnknownKey, field);
+    }
+  }
+  const bool complete = !target.empty() && !alias.empty();
+  if (!closed) reader_.Report(FindingKind::DataCutOff, u"+ALIAS");
+  if (!complete) {
+    if (closed) reader_.Report(FindingKind::IncompleteRecord, u"-ALIAS");
+    return !closed;
+  }
+  const NameEntry* const existing = doc_.Names().Find(target);
+  if (existing == nullptr) {
+    reader_.Report(FindingKind::AliasTargetMissing, target);
+    return true;
+  }
+  const bool listedBefore = doc_.Names().Find(alias) != nullptr;
+  const NameEntry* const entry = doc_.AddAlias(existing->Component(), alias);
+  if (listedBefore) ReportRenamed(*entry);
+  return true;
+}
+
+void LibraryReader::ReportRenamed(const NameEntry& entry) {
+  // Once the attempts are used up the same name is given twice, and the next load renames it again.
+  const bool unique = doc_.Names().Find(entry.Name()) == &entry;
+  reader_.Report(unique ? FindingKind::NameChanged : FindingKind::NotCanonical, entry.Name());
+}
+
+}  // namespace mivo

@@ -1,0 +1,38 @@
+#ifndef MIVO_MODEL_LIBRARY_READER_H
+#define MIVO_MODEL_LIBRARY_READER_H
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "mivo_doc.h"
+
+namespace mivo {
+
+/// Reads library blocks into a library. Keeps the patterns of the current block, which the
+/// components of that block name.
+class LibraryReader {
+ public:
+  LibraryReader(SMivoDoc& doc, SRecordReader& reader) : doc_(doc), reader_(reader) {}
+
+  /// See SMivoDoc::ReadBody.
+  [[nodiscard]] bool ReadBody(SMivoDoc::BodyExtent extent);
+
+ private:
+  [[nodiscard]] bool ReadPattern();
+  [[nodiscard]] bool ReadComponent();
+  [[nodiscard]] bool ReadAlias();
+  void ReadKeyedField(std::u16string_view field);
+  void ReportRenamed(const NameEntry& entry);
+
+  SMivoDoc& doc_;
+  SRecordReader& reader_;
+  // The first pattern of each name. Components share it until one of them is edited.
+  std::unordered_map<std::u16string, std::shared_ptr<SPtn>> patterns_;
+  BitPatternBudget bitPatternBudget_;
+};
+
+}  // namespace mivo
+
+#endif

@@ -1,0 +1,44 @@
+#include "library_writer.h"
+
+#include <unordered_map>
+
+#include "mivo_doc.h"
+
+namespace mivo {
+namespace {
+
+void WriteAlias(SRecordWriter& writer, std::u16string_view alias, std::u16string_view target) {
+  writer.WriteField(u"+ALIAS");
+  writer.WriteText(u"A", alias);
+  writer.WriteText(u"N", target);
+  writer.WriteField(u"-ALIAS");
+  writer.EndLine();
+}
+
+}  // namespace
+
+void WriteLibrary(SRecordWriter& writer, std::u16string_view property,
+                  std::span<const NameEntry* const> entries) {
+  writer.WriteField(SMivoDoc::kLibraryTag);
+  writer.EndLine();
+  writer.WriteInt(u"VER", SMivoDoc::kVersion);
+  writer.EndLine();
+  writer.WriteText(u"PROP", property);
+  writer.EndLine();
+
+  std::unordered_map<const SComponent*, const NameEntry*> firstEntries;
+  for (const NameEntry* const entry : entries) {
+    if (entry->Name().empty()) continue;
+    const auto [first, isFirst] = firstEntries.emplace(entry->Component(), entry);
+    if (isFirst) {
+      entry->Component()->Write(writer, entry->Name());
+    } else {
+      WriteAlias(writer, entry->Name(), first->second->Name());
+    }
+  }
+
+  writer.WriteField(SMivoDoc::kLibraryEndTag);
+  writer.EndLine();
+}
+
+}  // namespace mivo

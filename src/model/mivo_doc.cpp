@@ -1,0 +1,111 @@
+#include "mivo_doc.h"
+
+#include <algorithm>
+
+#include "library_reader.h"
+#include "library_writer.h"
+#include "number_text.h"
+#include "text_encoding.h"
+
+namespace mivo {
+namespace {
+
+constexpr std::int32_t kVersionOfFilesWithoutOne = 70;
+
+/// The version in the field behind the first library tag, which decides how the file is decoded; so
+/// it is read before anything is decoded. Nothing when the content is no library or schematic.
+std::optional<std::int32_t> PeekVersion(std::string_view bytes, FindingSink* sink) {
+  MemoryByteSource source(bytes);
+  SRecordReader reader;
+  reader.SetSink(sink);
+  reader.AttachFile(source, ByteDecoding::SignExtended);
+  std::u16string_view field;
+  const bool hasField = reader.ReadField(field) == FieldStatus::Ok;
+  if (hasField && field == SMivoDoc::kSchematicTag) {
+    reader.SkipToField(SMivoDoc::kLibraryTag);
+  } else if (!hasField || field != SMivoDoc::kLibraryTag) {
+    reader.Report(FindingKind::NotALibrary, field);
+    return std::nullopt;
+  }
+  reader.ReadField(field);
+  const std::size_t colon = field.find(u':');
+  if (colon == std::u16string_view::npos || field.substr(0, colon) != u"VER") {
+    return kVersionOfFilesWithoutOne;
+  }
+  return ParseInt(field.substr(colon + 1));
+}
+
+}  // namespace
+
+void SMivoDoc::Clear() {
+  names_.Clear();
+  components_.clear();
+  path_.reset();
+}
+
+bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink) {
+  if (path_) return false;
+  const std::optional<std::int32_t> version = PeekVersion(bytes, sink);
+  if (!version) return false;
+  version_ = *version;
+
+  SRecordReader reader;
+  MemoryByteSource source(bytes);
+  std::u16string decoded;
+  if (version_ < kFirstUtf8Version) {
+    decoded = DecodeSystemCodePage(bytes);
+    reader.AttachString(decoded);
+  } else {
+    reader.AttachFile(source, ByteDecoding::Utf8);
+  }
+  reader.SkipToField(kLibraryTag);
+  reader.SetSink(sink);
+  if (!ReadBody(reader, BodyExtent::Whole)) return false;
+  path_ = path;
+  return true;
+}
+
+bool SMivoDoc::ReadBody(SRecordReader& reader, BodyExtent extent) {
+  return LibraryReader(*this, reader).ReadBody(extent);
+}
+
+bool SMivoDoc::Write(ByteSink& sink, std::span<const NameEntry* const> entries) const {
+  SRecordWriter writer;
+  writer.AttachFile(sink);
+  WriteLibrary(writer, property, entries);
+  return writer.Flush() == FieldStatus::Ok;
+}
+
+bool SMivoDoc::Write(ByteSink& sink) const {
+  std::vector<const NameEntry*> entries;
+  entries.reserve(names_.Entries().size());
+  for (const auto& entry : names_.Entries()) entries.push_back(entry.get());
+  return Write(sink, entries);
+}
+
+NameEntry* SMivoDoc::AddComponent(std::unique_ptr<SComponent> component, std::u16string_view name) {
+  SComponent* const added = components_.emplace_back(std::move(component)).get();
+  return AddAlias(added, name);
+}
+
+NameEntry* SMivoDoc::AddAlias(SComponent* component, std::u16string_view name) {
+  return names_.Add(names_.UniqueName(name), component);
+}
+
+void SMivoDoc::Rename(NameEntry& entry, std::u16string_view name) {
+  names_.Rename(entry, names_.UniqueName(name));
+}
+
+void SMivoDoc::Remove(NameEntry& entry) {
+  const SComponent* const component = entry.Component();
+  names_.Remove(entry);
+  const auto& entries = names_.Entries();
+  const bool listed = std::any_of(entries.begin(), entries.end(), [component](const auto& other) {
+    return other->Component() == component;
+  });
+  if (!listed) {
+    std::erase_if(components_, [component](const auto& other) { return other.get() == component; });
+  }
+}
+
+}  // namespace mivo

@@ -1,0 +1,113 @@
+#include "ptn.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "keyed_field.h"
+#include "number_text.h"
+
+namespace mivo {
+namespace {
+
+/// Takes the bit pattern behind "+BMP" where the pattern is ready for it, and skips it elsewhere.
+/// False when that fails the pattern.
+bool ReadBitPattern(SRecordReader& reader, BitPatternBudget& budget, bool named, SPtn& pattern) {
+  if (!named || pattern.size.x <= 0 || pattern.size.y <= 0 || pattern.bitPattern) {
+    reader.Report(FindingKind::BitPatternSkipped, u"+BMP");
+    if (reader.SkipRecord(u"+BMP") == FieldStatus::Ok) return true;
+    reader.Report(FindingKind::UnclosedRecord, u"+PTN");
+    return false;
+  }
+  if (!budget.Take(SBitPattern::ByteCount(pattern.size))) {
+    reader.Report(FindingKind::BitPatternsTooLarge, u"+BMP");
+    return false;
+  }
+  pattern.bitPattern = SBitPattern::Read(reader, pattern.size);
+  return pattern.bitPattern.has_value();
+}
+
+}  // namespace
+
+SPtn::SPtn(const SPtn& other) : name(other.name), size(other.size), bitPattern(other.bitPattern) {
+  objects.reserve(other.objects.size());
+  for (const auto& object : other.objects) objects.push_back(object->Clone());
+}
+
+SPtn& SPtn::operator=(const SPtn& other) {
+  if (this != &other) *this = SPtn(other);
+  return *this;
+}
+
+bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
+  const SRecordReader::RecordScope scope(reader, u"+PTN");
+  bitPattern.reset();
+  objects.clear();
+  bool named = false;
+  std::u16string_view field;
+  while (reader.ReadField(field) == FieldStatus::Ok) {
+    if (field == u"-PTN") return true;
+    if (field.starts_with(u'-')) {
+      reader.Report(FindingKind::WrongClosingTag, field);
+      return false;
+    }
+    if (field == u"+BMP") {
+      if (!ReadBitPattern(reader, budget, named, *this)) return false;
+    } else if (field.starts_with(u'+')) {
+      if (std::unique_ptr<SPtnObj> object = CreatePtnObj(field)) {
+        const std::u16string tag(field);
+        if (object->Read(reader)) {
+          objects.push_back(std::move(object));
+        } else {
+          reader.Report(FindingKind::ObjectDropped, tag);
+        }
+        continue;
+      }
+      reader.Report(FindingKind::UnknownRecord, field);
+      if (reader.SkipRecord(field) != FieldStatus::Ok) {
+        reader.Report(FindingKind::UnclosedRecord, u"+PTN");
+        return false;
+      }
+    } else if (const auto keyed = SplitKeyedField(field, EmptyValue::Refused)) {
+      if (keyed->key == u"X") {
+        size.x = ParseInt(keyed->value);
+      } else if (keyed->key == u"Y") {
+        size.y = ParseInt(keyed->value);
+      } else if (keyed->key == u"N") {
+        name = reader.TextValue(keyed->value);
+        named = true;
+      } else {
+        reader.Report(FindingKind::UnknownKey, field);
+      }
+    } else {
+      reader.Report(FindingKind::FieldWithoutValue, field);
+    }
+  }
+  reader.Report(FindingKind::DataCutOff, u"+PTN");
+  return true;
+}
+
+void SPtn::Write(SRecordWriter& writer, std::u16string_view recordName) const {
+  writer.WriteField(u"+PTN");
+  writer.WriteText(u"N", recordName);
+  writer.WriteInt(u"X", size.x);
+  writer.WriteInt(u"Y", size.y);
+  writer.EndLine();
+  if (bitPattern) bitPattern->Write(writer, size);
+  for (const auto& object : objects) object->Write(writer);
+  writer.WriteField(u"-PTN");
+  writer.EndLine();
+}
+
+void SPtn::SetBitPatternArea(SPoint newSize, bool clear) {
+  if (clear) {
+    bitPattern.reset();
+    size = newSize;
+    return;
+  }
+  const SPoint limited = {std::min(newSize.x, SBitPattern::kMaxSide),
+                          std::min(newSize.y, SBitPattern::kMaxSide)};
+  bitPattern = bitPattern ? bitPattern->Resized(size, limited) : SBitPattern(limited);
+  size = limited;
+}
+
+}  // namespace mivo
