@@ -72,14 +72,13 @@ IntText::IntText(std::int32_t value) noexcept {
   if (value < 0) digits_[--first_] = u'-';
 }
 
-std::u16string HexText(std::uint32_t value) {
-  std::u16string text(8, u' ');
-  std::size_t i = text.size();
+HexText::HexText(std::uint32_t value) noexcept {
+  digits_.fill(u' ');
+  std::size_t i = digits_.size();
   do {
-    text[--i] = u"0123456789ABCDEF"[value & 15];
+    digits_[--i] = u"0123456789ABCDEF"[value & 15];
     value >>= 4;
   } while (value != 0);
-  return text;
 }
 
 }  // namespace mivo

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 // Numbers as files and edit fields hold them. Nothing here fails: text that is no number is 0, so
@@ -33,8 +32,16 @@ class IntText {
   std::size_t first_;
 };
 
-/// Eight characters: `value` in upper-case hexadecimal, padded on the left with blanks.
-[[nodiscard]] std::u16string HexText(std::uint32_t value);
+/// Eight characters: an unsigned 32-bit integer in upper-case hexadecimal, padded on the left with
+/// blanks.
+class HexText {
+ public:
+  explicit HexText(std::uint32_t value) noexcept;
+  operator std::u16string_view() const noexcept { return {digits_.data(), digits_.size()}; }
+
+ private:
+  std::array<char16_t, 8> digits_;
+};
 
 }  // namespace mivo
 

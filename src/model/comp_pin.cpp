@@ -1,5 +1,6 @@
 #include "comp_pin.h"
 
+#include <algorithm>
 #include <array>
 
 #include "keyed_field.h"
@@ -126,12 +127,19 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
 bool SCompPin::Write(SRecordWriter& writer) const {
   std::u16string place(1, kSideLetters[static_cast<std::size_t>(location.side)]);
   place.append(IntText(location.offset));
+  const bool isPlain =
+      std::all_of(name_.begin(), name_.end(), [](char16_t c) { return c < kOverline && c != 0; });
   std::u16string letters;
   for (const TypeLetter& entry : kTypeLetters) {
     if ((type & entry.bit) != 0) letters.push_back(entry.letter);
   }
   writer.WriteField(u"+PIN");
-  writer.WriteText(u"N", DisplayName());
+  // Most names read the same either way, and a library has a million of them.
+  if (isPlain) {
+    writer.WriteText(u"N", name_);
+  } else {
+    writer.WriteText(u"N", DisplayName());
+  }
   writer.WriteHex(u"DF", nameMask);
   writer.WriteText(u"L", place);
   writer.WriteText(u"T", letters);

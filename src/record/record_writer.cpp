@@ -1,5 +1,7 @@
 #include "record_writer.h"
 
+#include <algorithm>
+
 #include "keyed_field.h"
 #include "number_text.h"
 #include "text_encoding.h"
@@ -7,10 +9,19 @@
 namespace mivo {
 namespace {
 
-constexpr std::size_t kPieceBytes = std::size_t{1} << 16;
+constexpr std::size_t kBufferBytes = std::size_t{1} << 16;
+constexpr std::size_t kMaxBytesPerUnit = 3;  // an escape, or a character of the basic plane
+/// Texts are put into the buffer in pieces that fit whatever they hold.
+constexpr std::size_t kPieceUnits = 4096;
+
+constexpr std::u16string_view kHexDigits = u"0123456789ABCDEF";
 
 bool NeedsEscape(char16_t c) {
   return c <= u' ' || c == u'%' || c == u',';
+}
+
+bool IsHighSurrogate(char16_t c) {
+  return (c & 0xFC00) == 0xD800;
 }
 
 }  // namespace
@@ -24,45 +35,81 @@ void SRecordWriter::AttachString(std::u16string& target) {
 void SRecordWriter::AttachFile(ByteSink& sink) {
   target_ = nullptr;
   sink_ = &sink;
-  bytes_.clear();
+  if (!bytes_) bytes_ = std::make_unique<char[]>(kBufferBytes);
+  byteCount_ = 0;
   failed_ = false;
   atLineStart_ = true;
 }
 
-FieldStatus SRecordWriter::Put(std::u16string_view characters) {
-  if (sink_ != nullptr) {
-    AppendUtf8(bytes_, characters);
-    return bytes_.size() < kPieceBytes ? FieldStatus::Ok : Flush();
-  }
-  if (target_ == nullptr) return FieldStatus::End;
-  target_->append(characters);
-  return FieldStatus::Ok;
-}
-
 FieldStatus SRecordWriter::Flush() {
   if (sink_ == nullptr) return target_ != nullptr ? FieldStatus::Ok : FieldStatus::End;
-  if (!failed_ && !bytes_.empty()) failed_ = !sink_->Write(bytes_);
-  bytes_.clear();
+  if (!failed_ && byteCount_ > 0) failed_ = !sink_->Write({bytes_.get(), byteCount_});
+  byteCount_ = 0;
   return failed_ ? FieldStatus::End : FieldStatus::Ok;
 }
 
+FieldStatus SRecordWriter::Put(char16_t character) {
+  if (sink_ != nullptr) {
+    if (byteCount_ == kBufferBytes && Flush() != FieldStatus::Ok) return FieldStatus::End;
+    bytes_[byteCount_++] = static_cast<char>(character);
+    return failed_ ? FieldStatus::End : FieldStatus::Ok;
+  }
+  if (target_ == nullptr) return FieldStatus::End;
+  target_->push_back(character);
+  return FieldStatus::Ok;
+}
+
 FieldStatus SRecordWriter::BeginField() {
-  if (!atLineStart_) return Put(u",");
+  if (!atLineStart_) return Put(u',');
   atLineStart_ = false;
   return FieldStatus::Ok;
 }
 
+bool SRecordWriter::PutEscapedBytes(std::u16string_view text) {
+  char* out = bytes_.get() + byteCount_;
+  bool ended = false;
+  for (std::size_t i = 0; i < text.size() && !ended; ++i) {
+    const char16_t c = text[i];
+    if (c >= 0x80) {
+      // Rare enough to leave the encoding to the one place that knows it, a run at a time.
+      std::size_t end = i + 1;
+      while (end < text.size() && text[end] >= 0x80) ++end;
+      std::string run;
+      AppendUtf8(run, text.substr(i, end - i));
+      out = std::copy(run.begin(), run.end(), out);
+      i = end - 1;
+    } else if (!NeedsEscape(c)) {
+      *out++ = static_cast<char>(c);
+    } else if (c == u'\0') {
+      ended = true;
+    } else {
+      *out++ = '%';
+      *out++ = static_cast<char>(kHexDigits[c >> 4]);
+      *out++ = static_cast<char>(kHexDigits[c & 15]);
+    }
+  }
+  byteCount_ = static_cast<std::size_t>(out - bytes_.get());
+  return !ended;
+}
+
 FieldStatus SRecordWriter::PutEscaped(std::u16string_view text) {
-  text = UpToNul(text);
-  std::size_t start = 0;
-  for (std::size_t i = 0; i <= text.size(); ++i) {
-    if (i < text.size() && !NeedsEscape(text[i])) continue;
-    if (i > start && Put(text.substr(start, i - start)) != FieldStatus::Ok) return FieldStatus::End;
-    if (i == text.size()) break;
-    constexpr std::u16string_view kDigits = u"0123456789ABCDEF";
-    const char16_t escape[3] = {u'%', kDigits[text[i] >> 4], kDigits[text[i] & 15]};
-    if (Put({escape, 3}) != FieldStatus::Ok) return FieldStatus::End;
-    start = i + 1;
+  if (sink_ != nullptr) {
+    while (!text.empty()) {
+      std::size_t count = std::min(text.size(), kPieceUnits);
+      if (count < text.size() && IsHighSurrogate(text[count - 1])) --count;
+      if (byteCount_ + count * kMaxBytesPerUnit > kBufferBytes) Flush();
+      if (!PutEscapedBytes(text.substr(0, count))) break;
+      text.remove_prefix(count);
+    }
+    return failed_ ? FieldStatus::End : FieldStatus::Ok;
+  }
+  if (target_ == nullptr) return FieldStatus::End;
+  for (const char16_t c : UpToNul(text)) {
+    if (NeedsEscape(c)) {
+      target_->append({u'%', kHexDigits[c >> 4], kHexDigits[c & 15]});
+    } else {
+      target_->push_back(c);
+    }
   }
   return FieldStatus::Ok;
 }
@@ -72,7 +119,7 @@ FieldStatus SRecordWriter::WriteField(std::u16string_view text) {
 }
 
 FieldStatus SRecordWriter::WriteText(std::u16string_view key, std::u16string_view value) {
-  if (WriteField(key) != FieldStatus::Ok || Put(u":") != FieldStatus::Ok) return FieldStatus::End;
+  if (WriteField(key) != FieldStatus::Ok || Put(u':') != FieldStatus::Ok) return FieldStatus::End;
   return PutEscaped(value);
 }
 
@@ -86,7 +133,7 @@ FieldStatus SRecordWriter::WriteHex(std::u16string_view key, std::uint32_t value
 
 FieldStatus SRecordWriter::EndLine() {
   atLineStart_ = true;
-  return Put(u"\n");
+  return Put(u'\n');
 }
 
 }  // namespace mivo

@@ -1,7 +1,9 @@
 #ifndef MIVO_RECORD_RECORD_WRITER_H
 #define MIVO_RECORD_RECORD_WRITER_H
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -47,10 +49,13 @@ class SRecordWriter {
  private:
   FieldStatus BeginField();
   FieldStatus PutEscaped(std::u16string_view text);
-  FieldStatus Put(std::u16string_view characters);
+  /// For a file target; the buffer has room. False when a NUL ended the text.
+  bool PutEscapedBytes(std::u16string_view text);
+  FieldStatus Put(char16_t character);
 
   ByteSink* sink_ = nullptr;
-  std::string bytes_;
+  std::unique_ptr<char[]> bytes_;  // not yet handed to the sink
+  std::size_t byteCount_ = 0;
   bool failed_ = false;
   std::u16string* target_ = nullptr;
   bool atLineStart_ = true;
