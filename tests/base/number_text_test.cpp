@@ -85,10 +85,10 @@ TEST(IntText, HoldsTheLimits) {
 }
 
 TEST(HexText, PadsWithBlanksToEight) {
-  EXPECT_EQ(HexText(0), u"       0");
-  EXPECT_EQ(HexText(0x1A), u"      1A");
-  EXPECT_EQ(HexText(0xFFFFFFFF), u"FFFFFFFF");
-  EXPECT_EQ(HexText(0x80000000), u"80000000");
+  EXPECT_EQ(std::u16string_view(HexText(0)), u"       0");
+  EXPECT_EQ(std::u16string_view(HexText(0x1A)), u"      1A");
+  EXPECT_EQ(std::u16string_view(HexText(0xFFFFFFFF)), u"FFFFFFFF");
+  EXPECT_EQ(std::u16string_view(HexText(0x80000000)), u"80000000");
 }
 
 RC_GTEST_PROP(IntText, ReadsBack, ()) {
