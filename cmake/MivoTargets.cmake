@@ -24,6 +24,9 @@ if(MIVO_SANITIZE)
   target_compile_definitions(mivo_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
 endif()
+if(MIVO_FUZZ)
+  target_compile_options(mivo_build_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # mivo_library(NAME SOURCES <cpp...> HEADERS <h...> LINK <targets...>)
 #
@@ -54,15 +57,4 @@ function(mivo_test name)
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 120
     PROPERTIES TIMEOUT 300)
-endfunction()
-
-# mivo_benchmark(NAME SOURCES <cpp...> LINK <targets...>)
-#
-# A Google Benchmark executable that script/bench builds and runs.
-function(mivo_benchmark name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
-  add_executable(${name} ${ARG_SOURCES})
-  target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_build_flags benchmark::benchmark_main)
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
-  add_dependencies(mivo_benchmarks ${name})
 endfunction()

@@ -38,8 +38,9 @@ void SRecordReader::Start(const char16_t* begin, const char16_t* end) {
   windowBegin_ = current_ = begin;
   end_ = end;
   attached_ = true;
-  line_ = 1;
+  line_ = fieldLine_ = 1;
   windowOffset_ = lineOffset_ = 0;
+  fieldColumn_ = 1;
 }
 
 bool SRecordReader::Refill() {
