@@ -11,9 +11,7 @@ std::optional<KeyedField> PtnObjRecord::Next() {
       return std::nullopt;
     }
     if (field_.starts_with(u'+')) {
-      reader_.Report(FindingKind::UnknownRecord, field_);
-      if (reader_.SkipRecord(field_) == FieldStatus::Ok) continue;
-      reader_.Report(FindingKind::DataCutOff, openingTag_);
+      if (reader_.SkipUnknownRecord(field_, FindingKind::DataCutOff)) continue;
       end_ = RecordEnd::Failed;
       return std::nullopt;
     }

@@ -12,6 +12,10 @@ std::string_view MessageOf(FindingKind kind) noexcept {
       return "field without a key and a value is ignored";
     case FindingKind::UnknownKey:
       return "unknown key is ignored";
+    case FindingKind::MalformedEscape:
+      return "the end of the field cuts off an escape; what follows counts as cut off, too";
+    case FindingKind::FieldSplit:
+      return "field is too long and is split, one character is lost";
     case FindingKind::ValueIgnored:
       return "value out of range is ignored";
     case FindingKind::SurplusValue:
@@ -32,6 +36,8 @@ std::string_view MessageOf(FindingKind kind) noexcept {
       return "bit pattern before the name and size of its pattern is skipped";
     case FindingKind::PatternMissing:
       return "no pattern of this name precedes the component";
+    case FindingKind::PatternUnused:
+      return "no component uses this pattern, which saving leaves out";
     case FindingKind::AliasTargetMissing:
       return "alias of an unknown name is dropped";
     case FindingKind::DataCutOff:

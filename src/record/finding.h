@@ -13,6 +13,8 @@ enum class FindingKind {
   // What was left out. The rest of the data was read.
   FieldWithoutValue,    ///< a field that is neither a tag nor "KEY:value"
   UnknownKey,           ///< a key that the record does not know
+  MalformedEscape,      ///< a field with an escape cut off by its end; the data count as ended
+  FieldSplit,           ///< an over-long field: its rest is another field, a character is lost
   ValueIgnored,         ///< a value out of the range that the key allows
   SurplusValue,         ///< more values than the record has room for
   UnknownRecord,        ///< a record of unknown kind, skipped
@@ -23,6 +25,7 @@ enum class FindingKind {
   ObjectValueInvalid,   ///< why: a value that the object cannot live with
   BitPatternSkipped,    ///< a bit pattern that stands before the name or the size of its pattern
   PatternMissing,       ///< a component names a pattern that has not been read
+  PatternUnused,        ///< a pattern that no component can name or does name
   AliasTargetMissing,   ///< an alias of a name that has not been read
   DataCutOff,           ///< the data end inside an open record or library block
 
@@ -54,8 +57,8 @@ enum class Severity { Warning, Error };
 
 struct Finding {
   FindingKind kind;
-  std::int32_t line = 0;    ///< of the field concerned, counted from 1
-  std::int32_t column = 0;  ///< of the field's first character, in code units, counted from 1
+  std::int32_t line = 0;    ///< of the field with which it showed, counted from 1
+  std::int32_t column = 0;  ///< of that field's first character, in code units, counted from 1
   std::u16string record;    ///< opening tag of the innermost open record; empty outside all records
   std::u16string text;      ///< the field, name or value concerned; cut to 80 code units
 

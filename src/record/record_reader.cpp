@@ -38,23 +38,25 @@ void SRecordReader::Start(const char16_t* begin, const char16_t* end) {
   windowBegin_ = current_ = begin;
   end_ = end;
   attached_ = true;
+  exhausted_ = false;
   line_ = fieldLine_ = 1;
   windowOffset_ = lineOffset_ = 0;
   fieldColumn_ = 1;
 }
 
 bool SRecordReader::Refill() {
-  if (source_ == nullptr) return false;
+  // The padding of an unterminated field asks for thousands of characters behind the end.
+  if (source_ == nullptr || exhausted_) return false;
   const std::size_t kept = bytes_.size();
   bytes_.resize(kPieceBytes);
   const std::size_t got = source_->Read(std::span(bytes_).subspan(kept));
   bytes_.resize(kept + got);
-  const bool last = got == 0;
+  exhausted_ = got == 0;
   if (bytes_.empty()) return false;
 
   DecodeProgress progress{bytes_.size(), bytes_.size()};
   if (decoding_ == ByteDecoding::Utf8) {
-    progress = DecodeUtf8(bytes_, std::span(window_.get(), kPieceBytes), last);
+    progress = DecodeUtf8(bytes_, std::span(window_.get(), kPieceBytes), exhausted_);
   } else {
     std::transform(bytes_.begin(), bytes_.end(), window_.get(),
                    [](char byte) { return static_cast<char16_t>(static_cast<signed char>(byte)); });
@@ -123,13 +125,17 @@ FieldStatus SRecordReader::CollectIntoScratch(std::u16string_view& field) {
   char16_t c = GetCharacter();
   while (!EndsField(c) && scratch_.size() < kMaxFieldLength) {
     if (c == u'%') {
-      if (!AppendEscape()) return FieldStatus::End;
+      if (!AppendEscape()) {
+        Report(FindingKind::MalformedEscape, scratch_);
+        return FieldStatus::End;
+      }
     } else {
       scratch_.push_back(c);
     }
     c = GetCharacter();
   }
   if (c == u'\n') CountLine();
+  if (!EndsField(c) && c != kEndCharacter) Report(FindingKind::FieldSplit, scratch_);
   field = scratch_;
   return FieldStatus::Ok;
 }
@@ -159,6 +165,13 @@ FieldStatus SRecordReader::SkipRecord(std::u16string_view openingTag) {
   std::u16string closingTag(openingTag);
   closingTag.front() = u'-';
   return SkipToField(closingTag);
+}
+
+bool SRecordReader::SkipUnknownRecord(std::u16string_view openingTag, FindingKind unclosed) {
+  Report(FindingKind::UnknownRecord, openingTag);
+  if (SkipRecord(openingTag) == FieldStatus::Ok) return true;
+  Report(unclosed, record_);
+  return false;
 }
 
 void SRecordReader::Report(FindingKind kind, std::u16string_view text) {

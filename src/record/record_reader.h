@@ -57,6 +57,11 @@ class SRecordReader {
   /// read last.
   FieldStatus SkipRecord(std::u16string_view openingTag);
 
+  /// The same for a record of unknown kind, which is reported. False when the data end first, which
+  /// is reported as `unclosed`.
+  [[nodiscard]] bool SkipUnknownRecord(std::u16string_view openingTag,
+                                       FindingKind unclosed = FindingKind::UnclosedRecord);
+
   /// Line counter: 1 once a source is attached, plus every line feed consumed.
   [[nodiscard]] std::int32_t Line() const noexcept { return line_; }
 
@@ -106,6 +111,7 @@ class SRecordReader {
   ByteSource* source_ = nullptr;
   ByteDecoding decoding_ = ByteDecoding::Utf8;
   std::unique_ptr<char16_t[]> window_;
+  bool exhausted_ = false;  // the source has nothing more
   std::string bytes_;  // read but not decoded yet: a character cut off by the end of the last piece
 
   std::u16string scratch_;  // a field that is not a stretch of the characters at hand

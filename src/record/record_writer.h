@@ -24,7 +24,7 @@ class SRecordWriter {
   void AttachString(std::u16string& target);
 
   /// Writes to `sink`, which the caller keeps alive, in pieces; what the last piece holds reaches
-  /// the sink with Flush.
+  /// the sink with Flush. Once the sink has failed, every write fails.
   void AttachFile(ByteSink& sink);
 
   /// Writes `text` up to its first NUL as one field, escaping what would end or change it.
