@@ -25,20 +25,33 @@ bool ClearBeyondWidth(std::span<std::uint8_t> row, std::int32_t width) {
   return changed;
 }
 
-/// The byte of two characters, each "@" plus a nibble; 0 when one of them is something else.
-std::uint8_t ByteFromPair(char16_t high, char16_t low) {
-  const auto a = static_cast<std::uint16_t>(high - u'@');
-  const auto b = static_cast<std::uint16_t>(low - u'@');
-  return a > 15 || b > 15 ? std::uint8_t{0} : static_cast<std::uint8_t>(16 * a + b);
+/// Fills the front of a row, two characters a byte, each of them "@" plus a nibble; a byte with
+/// another character is 0. Returns whether all of the field could be used.
+bool TakeRow(std::u16string_view field, std::span<std::uint8_t> row) {
+  const std::size_t count = std::min(row.size(), field.size() / 2);
+  bool usable = field.size() == 2 * count;
+  for (std::size_t i = 0; i < count; ++i) {
+    const auto high = static_cast<std::uint16_t>(field[2 * i] - u'@');
+    const auto low = static_cast<std::uint16_t>(field[2 * i + 1] - u'@');
+    const bool nibbles = high <= 15 && low <= 15;
+    row[i] = nibbles ? static_cast<std::uint8_t>(16 * high + low) : std::uint8_t{0};
+    usable = usable && nibbles;
+  }
+  return usable;
 }
 
 }  // namespace
+
+SBitPattern::SBitPattern(SPoint size) : size_(size) {
+  const std::int32_t rows = std::clamp(size.y, 0, kMaxSide);
+  bytes_.resize(static_cast<std::size_t>(Stride(size.x)) * static_cast<std::size_t>(rows));
+}
 
 std::int32_t SBitPattern::Stride(std::int32_t width) noexcept {
   return (std::clamp(width, 0, kMaxSide) + 15) / 16 * 2;
 }
 
-std::int64_t SBitPattern::ByteCount(SPoint size) noexcept {
+std::int64_t SBitPattern::ByteCountOf(SPoint size) noexcept {
   if (size.x <= 0 || size.y <= 0) return 0;
   return (std::int64_t{size.x} + 15) / 16 * 2 * size.y;
 }
@@ -85,9 +98,8 @@ std::optional<SBitPattern> SBitPattern::Read(SRecordReader& reader, SPoint size)
       return std::nullopt;
     }
     if (field.starts_with(u'+')) {
-      reader.Report(FindingKind::UnknownRecord, field);
-      if (reader.SkipRecord(field) == FieldStatus::Ok) continue;
-      break;
+      if (!reader.SkipUnknownRecord(field)) return std::nullopt;
+      continue;
     }
     if (y >= size.y) {
       reader.Report(FindingKind::SurplusValue, field);
@@ -96,10 +108,7 @@ std::optional<SBitPattern> SBitPattern::Read(SRecordReader& reader, SPoint size)
     // Rows beyond kMaxSide are no surplus, since a taller pattern writes them, but are not stored.
     if (y < kMaxSide) {
       const std::span<std::uint8_t> row = pattern.Row(size.x, y);
-      const std::size_t count = std::min(row.size(), field.size() / 2);
-      for (std::size_t i = 0; i < count; ++i) {
-        row[i] = ByteFromPair(field[2 * i], field[2 * i + 1]);
-      }
+      if (!TakeRow(field, row)) reader.Report(FindingKind::ValueIgnored, field);
       if (ClearBeyondWidth(row, size.x)) reader.Report(FindingKind::BitsBeyondWidth, field);
     }
     ++y;
@@ -111,13 +120,19 @@ std::optional<SBitPattern> SBitPattern::Read(SRecordReader& reader, SPoint size)
 void SBitPattern::Write(SRecordWriter& writer, SPoint size) const {
   writer.WriteField(u"+BMP");
   writer.EndLine();
+  const std::int64_t rowBytes = RowBytes(size.x);
+  const std::int64_t stride = Stride(size.x);
+  // Rows behind the declared bytes would be empty lines, which no reader sees, up to 2³¹ of them.
+  std::int64_t left = ByteCountOf(size_);
   std::u16string text;
-  for (std::int32_t y = 0; y < size.y; ++y) {
+  for (std::int32_t y = 0; y < size.y && rowBytes > 0 && left > 0; ++y, left -= stride) {
     text.clear();
     for (const std::uint8_t byte : Row(size.x, y)) {
       text.push_back(static_cast<char16_t>(u'@' + (byte >> 4)));
       text.push_back(static_cast<char16_t>(u'@' + (byte & 15)));
     }
+    // What is declared but not stored has no set bits.
+    text.resize(static_cast<std::size_t>(2 * std::min(rowBytes, left)), u'@');
     writer.WriteField(text);
     writer.EndLine();
   }

@@ -14,29 +14,31 @@ namespace mivo {
 
 /// The bytes of a monochrome image: rows from the top down, each a whole number of 16-bit words,
 /// the most significant bit of a byte leftmost. A set bit is a drawn pixel; bits beyond the width
-/// are 0. The size belongs to the pattern around it (SPtn); no size beyond kMaxSide is stored in
-/// full.
+/// are 0. Rows and columns beyond kMaxSide are not stored: they have no set bits.
 class SBitPattern {
  public:
-  /// Pattern area of a component of 50 cells: columns and rows beyond it are not stored.
+  /// Pattern area of a component of 50 cells.
   static constexpr std::int32_t kMaxSide = 501;
   /// All bit patterns of one load together; see BitPatternBudget.
   static constexpr std::int64_t kMaxTotalBytes = std::int64_t{1} << 30;
 
-  /// An image of `size` pixels with no bit set. Its rows have the stride of the width as it is
-  /// stored, while the byte count follows the size as it is declared.
-  explicit SBitPattern(SPoint size) : bytes_(static_cast<std::size_t>(ByteCount(size))) {}
+  /// An image of `size` pixels, which may be anything, with no bit set.
+  explicit SBitPattern(SPoint size);
 
   /// Bytes from one row to the next for an image `width` pixels wide (at most kMaxSide are stored).
   [[nodiscard]] static std::int32_t Stride(std::int32_t width) noexcept;
   /// ((width + 15) ÷ 16) × height × 2 for a positive size, else 0.
-  [[nodiscard]] static std::int64_t ByteCount(SPoint size) noexcept;
+  [[nodiscard]] static std::int64_t ByteCountOf(SPoint size) noexcept;
 
+  /// The size that it was made for. A file can change the size of the pattern around it (SPtn)
+  /// later, and that size is the one that counts.
+  [[nodiscard]] SPoint Size() const noexcept { return size_; }
+
+  /// The stored bytes, row behind row.
   [[nodiscard]] const std::vector<std::uint8_t>& Bytes() const noexcept { return bytes_; }
 
   /// The stored bytes of row `y` of an image `width` pixels wide: without the row's padding word
-  /// bytes, shorter or empty where nothing is stored. The size of a pattern read from a file need
-  /// not be the one that its bit pattern was read for.
+  /// bytes, shorter or empty where nothing is stored.
   [[nodiscard]] std::span<const std::uint8_t> Row(std::int32_t width,
                                                   std::int32_t y) const noexcept;
   [[nodiscard]] std::span<std::uint8_t> Row(std::int32_t width, std::int32_t y) noexcept;
@@ -46,12 +48,13 @@ class SBitPattern {
 
   /// Reads the fields behind "+BMP" of a pattern of `size`; nothing when the record is malformed.
   [[nodiscard]] static std::optional<SBitPattern> Read(SRecordReader& reader, SPoint size);
-  /// Writes the whole record.
+  /// Writes the whole record for a pattern of `size`.
   void Write(SRecordWriter& writer, SPoint size) const;
 
   bool operator==(const SBitPattern&) const = default;
 
  private:
+  SPoint size_;
   std::vector<std::uint8_t> bytes_;
 };
 

@@ -51,6 +51,16 @@ void ReadLocation(SRecordReader& reader, std::u16string_view value, SPinLocation
   }
 }
 
+/// Whether a name read from `text` is displayed as `text` again.
+bool IsDisplayForm(std::u16string_view text) {
+  std::size_t characters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i, ++characters) {
+    if (text[i] == u'\\' && ++i == text.size()) return false;
+    if (text[i] >= SCompPin::kOverline) return false;
+  }
+  return characters <= SCompPin::kMaxNameLength;
+}
+
 }  // namespace
 
 std::u16string PinNameFromDisplayText(std::u16string_view text) {
@@ -68,8 +78,10 @@ std::u16string PinNameFromDisplayText(std::u16string_view text) {
 std::u16string PinNameToDisplayText(std::u16string_view name) {
   std::u16string text;
   for (const char16_t c : name) {
+    const auto shown = static_cast<char16_t>(c & (SCompPin::kOverline - 1));
+    if (shown == u'\0') break;  // ends every text
     if ((c & SCompPin::kOverline) != 0) text.push_back(u'\\');
-    text.push_back(static_cast<char16_t>(c & 0x7F));
+    text.push_back(shown);
   }
   return text;
 }
@@ -94,16 +106,16 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
       return false;
     }
     if (field.starts_with(u'+')) {
-      reader.Report(FindingKind::UnknownRecord, field);
-      if (reader.SkipRecord(field) == FieldStatus::Ok) continue;
-      reader.Report(FindingKind::UnclosedRecord, u"+PIN");
-      return false;
+      if (!reader.SkipUnknownRecord(field)) return false;
+      continue;
     }
     const std::optional<KeyedField> keyed = SplitKeyedField(field, EmptyValue::Allowed);
     if (!keyed) {
       reader.Report(FindingKind::FieldWithoutValue, field);
     } else if (keyed->key == u"N") {
-      SetNameFromDisplayText(reader.TextValue(keyed->value));
+      const std::u16string_view text = reader.TextValue(keyed->value);
+      SetNameFromDisplayText(text);
+      if (!IsDisplayForm(text)) reader.Report(FindingKind::NotCanonical, field);
     } else if (keyed->key == u"DF") {
       nameMask = ParseHex(keyed->value);
     } else if (keyed->key == u"L") {

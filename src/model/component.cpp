@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "keyed_field.h"
 #include "number_text.h"
@@ -11,11 +12,10 @@ namespace {
 
 constexpr std::array<std::u16string_view, 3> kBlockTypeNames = {u"GEN", u"SHB", u"FXB"};
 
-/// Anything but the names of the other two is general.
-BlockType BlockTypeFromName(std::u16string_view name) {
+std::optional<BlockType> BlockTypeFromName(std::u16string_view name) {
   const auto found = std::find(kBlockTypeNames.begin(), kBlockTypeNames.end(), name);
-  return found == kBlockTypeNames.end() ? BlockType::General
-                                        : static_cast<BlockType>(found - kBlockTypeNames.begin());
+  if (found == kBlockTypeNames.end()) return std::nullopt;
+  return static_cast<BlockType>(found - kBlockTypeNames.begin());
 }
 
 /// Takes a number from 0 to 255 that has not been given yet, 0 counting as not given.
@@ -39,7 +39,7 @@ std::u16string_view BlockTypeName(BlockType type) noexcept {
 /// The keyed fields of a component record as they come, before the record is complete.
 struct SComponent::PendingRecord {
   RecordNames& names;
-  std::u16string typeName;
+  BlockType type = BlockType::General;
   std::int32_t blockCount = 0;
   std::int32_t fixedBlock = 0;
 };
@@ -60,7 +60,9 @@ bool SComponent::ReadKeyedField(SRecordReader& reader, std::u16string_view field
   } else if (key == u"P") {
     pending.names.patternName = reader.TextValue(value);
   } else if (key == u"TYPE") {
-    pending.typeName = value;
+    const std::optional<BlockType> type = BlockTypeFromName(reader.TextValue(value));
+    if (!type) reader.Report(FindingKind::ValueIgnored, field);
+    pending.type = type.value_or(BlockType::General);
   } else if (key == u"NOTE") {
     note = reader.TextValue(value);
   } else if (key == u"MFR") {
@@ -90,7 +92,7 @@ bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
   const SRecordReader::RecordScope scope(reader, u"+COMP");
   *this = SComponent();
   names = {};
-  PendingRecord pending{names, {}, 0, 0};
+  PendingRecord pending{names};
   const auto isSized = [&] { return size_.x >= 1 && size_.y >= 1 && pending.blockCount >= 1; };
 
   std::u16string_view field;
@@ -103,11 +105,7 @@ bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
       }
       if (!pins_.emplace_back().Read(reader, pending.blockCount)) return false;
     } else if (field.starts_with(u'+')) {
-      reader.Report(FindingKind::UnknownRecord, field);
-      if (reader.SkipRecord(field) != FieldStatus::Ok) {
-        reader.Report(FindingKind::UnclosedRecord, u"+COMP");
-        return false;
-      }
+      if (!reader.SkipUnknownRecord(field)) return false;
     } else if (field == u"-COMP") {
       if (names.name.empty() || !isSized()) {
         reader.Report(FindingKind::IncompleteRecord, field);
@@ -123,9 +121,13 @@ bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
   }
   if (!closed) reader.Report(FindingKind::DataCutOff, u"+COMP");
 
-  type_ = BlockTypeFromName(pending.typeName);
-  fixedBlock_ = type_ == BlockType::Fixed ? pending.fixedBlock : 0;
+  type_ = pending.type;
   blockCount_ = pending.blockCount;
+  if (type_ == BlockType::Fixed) {
+    fixedBlock_ = pending.fixedBlock;
+  } else if (pending.fixedBlock != 0) {
+    reader.Report(FindingKind::ValueIgnored, u"FB");
+  }
   if (type_ != BlockType::General) {
     if (blockCount_ > 1) reader.Report(FindingKind::BlocksReduced, names.name);
     SetBlockCount(1);

@@ -1,5 +1,8 @@
 #include "library_reader.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "keyed_field.h"
 
 namespace mivo {
@@ -12,7 +15,7 @@ bool LibraryReader::ReadBody(SMivoDoc::BodyExtent extent) {
         reader_.Report(FindingKind::WrongClosingTag, field);
         return false;
       }
-      patterns_.clear();
+      EmptyPatternPool();
       if (reader_.SkipToField(SMivoDoc::kLibraryTag) != FieldStatus::Ok) return true;
     } else if (!field.starts_with(u'+')) {
       ReadKeyedField(field);
@@ -24,13 +27,10 @@ bool LibraryReader::ReadBody(SMivoDoc::BodyExtent extent) {
     } else if (field == u"+ALIAS") {
       if (!ReadAlias()) return false;
     } else {
-      reader_.Report(FindingKind::UnknownRecord, field);
-      if (reader_.SkipRecord(field) != FieldStatus::Ok) {
-        reader_.Report(FindingKind::UnclosedRecord, u"");
-        return false;
-      }
+      if (!reader_.SkipUnknownRecord(field)) return false;
     }
   }
+  EmptyPatternPool();
   reader_.Report(FindingKind::DataCutOff, SMivoDoc::kLibraryTag);
   return true;
 }
@@ -49,9 +49,39 @@ void LibraryReader::ReadKeyedField(std::u16string_view field) {
 bool LibraryReader::ReadPattern() {
   auto pattern = std::make_shared<SPtn>();
   if (!pattern->Read(reader_, bitPatternBudget_)) return false;
-  // Components name a pattern; one without a name is out of reach.
+  // Components name their pattern, so one without a name, or with a name taken, is out of reach.
   std::u16string name = pattern->name;
-  if (!name.empty()) patterns_.emplace(std::move(name), std::move(pattern));
+  if (name.empty() || !patterns_.emplace(name, std::move(pattern)).second) {
+    reader_.Report(FindingKind::PatternUnused, name);
+  }
+  return true;
+}
+
+void LibraryReader::EmptyPatternPool() {
+  std::vector<std::u16string_view> unused;
+  for (const auto& [name, pattern] : patterns_) {
+    if (pattern.use_count() == 1) unused.push_back(name);
+  }
+  std::sort(unused.begin(), unused.end());
+  for (const std::u16string_view name : unused) reader_.Report(FindingKind::PatternUnused, name);
+  patterns_.clear();
+}
+
+bool LibraryReader::GivePattern(SComponent& component, const std::u16string& name) {
+  const auto found = patterns_.find(name);
+  if (found == patterns_.end()) {
+    reader_.Report(FindingKind::PatternMissing, name);
+    return true;
+  }
+  const std::shared_ptr<SPtn>& pattern = found->second;
+  // Saving writes the pattern once for every component that shares it.
+  const bool shared = pattern.use_count() > 1;
+  if (shared && pattern->bitPattern &&
+      !bitPatternBudget_.Take(SBitPattern::ByteCountOf(pattern->size))) {
+    reader_.Report(FindingKind::BitPatternsTooLarge, name);
+    return false;
+  }
+  component.SharePattern(pattern);
   return true;
 }
 
@@ -59,14 +89,7 @@ bool LibraryReader::ReadComponent() {
   auto component = std::make_unique<SComponent>();
   SComponent::RecordNames names;
   if (!component->Read(reader_, names)) return false;
-  if (!names.patternName.empty()) {
-    const auto pattern = patterns_.find(names.patternName);
-    if (pattern != patterns_.end()) {
-      component->SharePattern(pattern->second);
-    } else {
-      reader_.Report(FindingKind::PatternMissing, names.patternName);
-    }
-  }
+  if (!names.patternName.empty() && !GivePattern(*component, names.patternName)) return false;
   const bool listedBefore = doc_.Names().Find(names.name) != nullptr;
   const NameEntry* const entry = doc_.AddComponent(std::move(component), names.name);
   if (listedBefore) ReportRenamed(*entry);
@@ -87,11 +110,7 @@ bool LibraryReader::ReadAlias() {
       }
       closed = true;
     } else if (field.starts_with(u'+')) {
-      reader_.Report(FindingKind::UnknownRecord, field);
-      if (reader_.SkipRecord(field) != FieldStatus::Ok) {
-        reader_.Report(FindingKind::UnclosedRecord, u"+ALIAS");
-        return false;
-      }
+      if (!reader_.SkipUnknownRecord(field)) return false;
     } else if (const auto keyed = SplitKeyedField(field, EmptyValue::Refused); !keyed) {
       reader_.Report(FindingKind::FieldWithoutValue, field);
     } else if (keyed->key == u"N") {

@@ -21,7 +21,10 @@ class LibraryReader {
 
  private:
   [[nodiscard]] bool ReadPattern();
+  void EmptyPatternPool();
   [[nodiscard]] bool ReadComponent();
+  /// False when the bit patterns of the components together become too large.
+  [[nodiscard]] bool GivePattern(SComponent& component, const std::u16string& name);
   [[nodiscard]] bool ReadAlias();
   void ReadKeyedField(std::u16string_view field);
   void ReportRenamed(const NameEntry& entry);

@@ -58,9 +58,10 @@ bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSin
   } else {
     reader.AttachFile(source, ByteDecoding::Utf8);
   }
-  reader.SkipToField(kLibraryTag);
+  // A schematic without components has no library block.
+  const bool hasBlock = reader.SkipToField(kLibraryTag) == FieldStatus::Ok;
   reader.SetSink(sink);
-  if (!ReadBody(reader, BodyExtent::Whole)) return false;
+  if (hasBlock && !ReadBody(reader, BodyExtent::Whole)) return false;
   path_ = path;
   return true;
 }

@@ -12,18 +12,31 @@ namespace {
 /// Takes the bit pattern behind "+BMP" where the pattern is ready for it, and skips it elsewhere.
 /// False when that fails the pattern.
 bool ReadBitPattern(SRecordReader& reader, BitPatternBudget& budget, bool named, SPtn& pattern) {
-  if (!named || pattern.size.x <= 0 || pattern.size.y <= 0 || pattern.bitPattern) {
-    reader.Report(FindingKind::BitPatternSkipped, u"+BMP");
+  const bool ready = named && pattern.size.x > 0 && pattern.size.y > 0;
+  if (!ready || pattern.bitPattern) {
+    reader.Report(ready ? FindingKind::SurplusValue : FindingKind::BitPatternSkipped, u"+BMP");
     if (reader.SkipRecord(u"+BMP") == FieldStatus::Ok) return true;
     reader.Report(FindingKind::UnclosedRecord, u"+PTN");
     return false;
   }
-  if (!budget.Take(SBitPattern::ByteCount(pattern.size))) {
+  if (!budget.Take(SBitPattern::ByteCountOf(pattern.size))) {
     reader.Report(FindingKind::BitPatternsTooLarge, u"+BMP");
     return false;
   }
   pattern.bitPattern = SBitPattern::Read(reader, pattern.size);
   return pattern.bitPattern.has_value();
+}
+
+/// Looks after a size that has changed behind the bit pattern: it will be saved in front of it.
+/// False when that fails the pattern.
+bool CheckSize(SRecordReader& reader, BitPatternBudget& budget, const SPtn& pattern) {
+  if (!pattern.bitPattern || pattern.bitPattern->Size() == pattern.size) return true;
+  reader.Report(FindingKind::NotCanonical, u"+BMP");
+  const std::int64_t more =
+      SBitPattern::ByteCountOf(pattern.size) - SBitPattern::ByteCountOf(pattern.bitPattern->Size());
+  if (more <= 0 || budget.Take(more)) return true;
+  reader.Report(FindingKind::BitPatternsTooLarge, u"+BMP");
+  return false;
 }
 
 }  // namespace
@@ -45,7 +58,7 @@ bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
   bool named = false;
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
-    if (field == u"-PTN") return true;
+    if (field == u"-PTN") return CheckSize(reader, budget, *this);
     if (field.starts_with(u'-')) {
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
@@ -62,11 +75,7 @@ bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
         }
         continue;
       }
-      reader.Report(FindingKind::UnknownRecord, field);
-      if (reader.SkipRecord(field) != FieldStatus::Ok) {
-        reader.Report(FindingKind::UnclosedRecord, u"+PTN");
-        return false;
-      }
+      if (!reader.SkipUnknownRecord(field)) return false;
     } else if (const auto keyed = SplitKeyedField(field, EmptyValue::Refused)) {
       if (keyed->key == u"X") {
         size.x = ParseInt(keyed->value);
@@ -83,7 +92,7 @@ bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
     }
   }
   reader.Report(FindingKind::DataCutOff, u"+PTN");
-  return true;
+  return CheckSize(reader, budget, *this);
 }
 
 void SPtn::Write(SRecordWriter& writer, std::u16string_view recordName) const {
