@@ -1,0 +1,82 @@
+#ifndef MIVO_FILE_NATIVE_FILE_H
+#define MIVO_FILE_NATIVE_FILE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace mivo {
+
+/// The words of the system for `error`, in UTF-8.
+[[nodiscard]] std::string SystemMessage(const std::error_code& error);
+
+/// An open file of the operating system: the few calls on which the file layer is built, each
+/// implemented once per platform. Bytes pass through unchanged. Private to this folder.
+class NativeFile {
+ public:
+  enum class Kind { Regular, Directory, Other };
+  /// Who may use a file that is created: whoever the system's defaults let, or its owner alone.
+  enum class Access { Default, OwnerOnly };
+
+  NativeFile() = default;
+  NativeFile(NativeFile&& other) noexcept;
+  NativeFile& operator=(NativeFile&& other) noexcept;
+  ~NativeFile();
+
+  /// Never waits, not even for the other end of a pipe.
+  [[nodiscard]] static std::error_code OpenToRead(const std::filesystem::path& path,
+                                                  NativeFile& file);
+  /// Opens what exists, of whatever kind, and leaves its content alone.
+  [[nodiscard]] static std::error_code OpenToWrite(const std::filesystem::path& path,
+                                                   NativeFile& file);
+  /// Creates a file for writing; fails with std::errc::file_exists when there is anything by that
+  /// name.
+  [[nodiscard]] static std::error_code Create(const std::filesystem::path& path, Access access,
+                                              NativeFile& file);
+  // The streams that the process was started with; they are not closed with the object.
+  [[nodiscard]] static NativeFile StandardInput() noexcept;
+  [[nodiscard]] static NativeFile StandardOutput() noexcept;
+  [[nodiscard]] static NativeFile StandardError() noexcept;
+
+  [[nodiscard]] bool IsOpen() const noexcept { return handle_ != kNone; }
+  [[nodiscard]] Kind GetKind() const noexcept;
+  /// Bytes that the file seems to hold; 0 when that is not known.
+  [[nodiscard]] std::size_t SizeHint() const noexcept;
+
+  /// Fills the front of `into`; `got` is 0 at the end of the data.
+  [[nodiscard]] std::error_code Read(std::span<char> into, std::size_t& got) noexcept;
+  /// Writes all of `bytes`.
+  [[nodiscard]] std::error_code Write(std::string_view bytes) noexcept;
+  /// Returns once the content is on the disk.
+  [[nodiscard]] std::error_code Flush() noexcept;
+  [[nodiscard]] std::error_code Close() noexcept;
+
+  /// Gives this file the owner and the permissions of `other`, as far as the system lets us.
+  void TakeAccessFrom(const NativeFile& other) noexcept;
+
+ private:
+  static constexpr std::intptr_t kNone = -1;
+
+  [[nodiscard]] static NativeFile Borrowed(std::intptr_t handle) noexcept;
+
+  std::intptr_t handle_ = kNone;  // a file descriptor, or a HANDLE on Windows
+  bool owned_ = true;
+};
+
+/// The file at the end of the chain of symbolic links that starts at `path`; need not exist.
+[[nodiscard]] std::filesystem::path FinalTarget(const std::filesystem::path& path);
+
+/// Puts `source` in the place of `target`, whether that exists or not, in one step. Both are in the
+/// same folder.
+[[nodiscard]] std::error_code MoveOver(const std::filesystem::path& source,
+                                       const std::filesystem::path& target);
+
+void RemoveFile(const std::filesystem::path& path) noexcept;
+
+}  // namespace mivo
+
+#endif
