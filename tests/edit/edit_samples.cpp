@@ -8,15 +8,17 @@
 namespace mivo {
 namespace {
 
-void WriteElements(SRecordWriter& writer, std::span<const SCompEditElm> elements) {
+void WritePins(SRecordWriter& writer, std::span<const SCompEditElm> elements) {
   for (const SCompEditElm& element : elements) {
-    if (!element.IsAlive()) continue;
-    if (element.Pin() != nullptr) {
-      element.Pin()->Write(writer);
-      writer.EndLine();
-    } else {
-      element.Object()->Write(writer);
-    }
+    if (!element.IsAlive() || element.Pin() == nullptr) continue;
+    element.Pin()->Write(writer);
+    writer.EndLine();
+  }
+}
+
+void WriteObjects(SRecordWriter& writer, std::span<const SCompEditElm> elements) {
+  for (const SCompEditElm& element : elements) {
+    if (element.IsAlive() && element.Object() != nullptr) element.Object()->Write(writer);
   }
 }
 
@@ -90,7 +92,8 @@ std::string Shown(const SCompEditDoc& doc) {
   writer.WriteInt(u"Y", doc.BodySize().y);
   writer.WriteInt(u"B", doc.Blocks());
   writer.EndLine();
-  WriteElements(writer, doc.Elements());
+  WritePins(writer, doc.Elements());
+  WriteObjects(writer, doc.Elements());
   return Utf16ToUtf8(text);
 }
 
@@ -98,7 +101,8 @@ std::string Selected(const SCompEditDoc& doc) {
   std::u16string text;
   SRecordWriter writer;
   writer.AttachString(text);
-  WriteElements(writer, doc.Selection());
+  WritePins(writer, doc.Selection());
+  WriteObjects(writer, doc.Selection());
   return Utf16ToUtf8(text);
 }
 

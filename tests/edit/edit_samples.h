@@ -35,8 +35,9 @@ enum class Drawn { Yes, No };
 [[nodiscard]] SComponent MakeComponent(SPoint size, std::int32_t blocks, std::vector<SCompPin> pins,
                                        Drawn drawn, Objects objects = {});
 
-/// The records of the alive pins and objects in order, with body size and block count in front: all
-/// that a user sees of the document apart from the selection.
+/// Body size, block count and the records of the alive pins and of the alive objects: all that a
+/// user sees of the document apart from the selection. Pins are drawn before objects, so the order
+/// between the two does not show.
 [[nodiscard]] std::string Shown(const SCompEditDoc& doc);
 /// The same of the selection.
 [[nodiscard]] std::string Selected(const SCompEditDoc& doc);
