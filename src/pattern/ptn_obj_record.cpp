@@ -2,7 +2,7 @@
 
 namespace mivo {
 
-std::optional<KeyedField> PtnObjRecord::Next() {
+std::optional<KeyedField> PtnObjRecord::Next(EmptyValue emptyValue) {
   while (reader_.ReadField(field_) == FieldStatus::Ok) {
     if (field_.starts_with(u'-')) {
       const bool own = field_.substr(1) == openingTag_.substr(1);
@@ -15,7 +15,7 @@ std::optional<KeyedField> PtnObjRecord::Next() {
       end_ = RecordEnd::Failed;
       return std::nullopt;
     }
-    if (const auto keyed = SplitKeyedField(field_, EmptyValue::Refused)) return keyed;
+    if (const auto keyed = SplitKeyedField(field_, emptyValue)) return keyed;
     reader_.Report(FindingKind::FieldWithoutValue, field_);
   }
   reader_.Report(FindingKind::DataCutOff, openingTag_);

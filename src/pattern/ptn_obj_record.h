@@ -27,7 +27,7 @@ class PtnObjRecord {
 
   /// The next field with a key and a value, valid until the next call; nothing once the record has
   /// ended.
-  [[nodiscard]] std::optional<KeyedField> Next();
+  [[nodiscard]] std::optional<KeyedField> Next(EmptyValue emptyValue = EmptyValue::Refused);
 
   /// Meaningful once Next has returned nothing.
   [[nodiscard]] RecordEnd End() const noexcept { return end_; }

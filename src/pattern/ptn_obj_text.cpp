@@ -119,7 +119,13 @@ bool SPtnObjText::Read(SRecordReader& reader) {
   bool hasX = false;
   bool hasY = false;
   bool hasText = false;
-  while (const auto field = record.Next()) {
+  while (const auto field = record.Next(EmptyValue::Allowed)) {
+    if (field->value.empty()) {
+      // The writer writes these two even when there is nothing in them.
+      const bool asWritten = field->key == u"FN" || field->key == u"FF";
+      if (!asWritten) record.Report(FindingKind::FieldWithoutValue);
+      continue;
+    }
     const std::int32_t value = ParseInt(field->value);
     if (field->key == u"X") {
       position_.x = value;
