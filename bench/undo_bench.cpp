@@ -1,0 +1,101 @@
+// Cost of undo in a large document, beside filling and copying a 3840 × 2160 image in the same run.
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+#include "comp_edit_doc.h"
+#include "component.h"
+#include "ptn_obj_line.h"
+
+namespace mivo::bench {
+namespace {
+
+constexpr std::size_t kElements = 10'000;
+constexpr int kOperations = 1'000;
+constexpr int kTracelessPicks = 1'000;
+constexpr std::size_t kImagePixels = 3840 * 2160;
+
+template <typename Work>
+double Milliseconds(Work work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  const std::chrono::duration<double, std::milli> elapsed =
+      std::chrono::steady_clock::now() - start;
+  return elapsed.count();
+}
+
+double Median(std::vector<double>& values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+double FillAndCopy() {
+  std::vector<std::uint32_t> image(kImagePixels);
+  std::vector<std::uint32_t> copy(kImagePixels);
+  std::vector<double> times;
+  for (std::uint32_t round = 0; round < 9; ++round) {
+    times.push_back(Milliseconds([&] {
+      std::fill(image.begin(), image.end(), round);
+      std::copy(image.begin(), image.end(), copy.begin());
+    }));
+    if (copy.back() != round) std::exit(1);
+  }
+  return Median(times);
+}
+
+SComponent LargeComponent() {
+  SComponent component;
+  component.SetSize({255, 255}, true, true);
+  for (std::int32_t i = 0; i < static_cast<std::int32_t>(kElements); ++i) {
+    auto line = std::make_unique<SPtnObjLine>();
+    line->SetStart({i % 2550, i % 2501});
+    line->SetEnd({i % 2539, i % 2549});
+    component.MutablePattern()->objects.push_back(std::move(line));
+  }
+  return component;
+}
+
+void Measure() {
+  const SComponent component = LargeComponent();
+  SCompEditDoc doc;
+  doc.Load(&component);
+  for (int i = 0; i < kOperations; ++i) {
+    doc.RaiseOperation();
+    if (!doc.PickElement(static_cast<std::size_t>(i) * 7 % kElements)) std::exit(1);
+    doc.MoveSelection(1, 1);
+    doc.ReleaseSelection();
+  }
+  for (int i = 0; i < kTracelessPicks; ++i) {
+    doc.RaiseOperation();
+    if (!doc.PickElement(kElements - 1)) std::exit(1);
+    doc.ReleaseSelection();
+  }
+  const double image = FillAndCopy();  // also leaves nothing of the document in the caches
+  std::vector<double> times;
+  const double first = Milliseconds([&] {
+    if (!doc.Undo()) std::exit(1);
+  });
+  if (doc.Operation() != kOperations - 1) std::exit(1);
+  while (doc.CanUndo()) {
+    times.push_back(Milliseconds([&] { doc.Undo(); }));
+  }
+  std::printf("Undo among %zu elements with %d operations behind it\n", kElements, kOperations);
+  std::printf("%-44s %9s %14s\n", "", "ms", "/ fill + copy");
+  std::printf("%-44s %9.3f %14.4f\n", "fill and copy of a 3840 x 2160 image", image, 1.0);
+  std::printf("%-44s %9.3f %14.4f\n", "first, skipping 1000 numbers without a trace", first,
+              first / image);
+  std::printf("%-44s %9.3f %14.4f\n", "median of the others", Median(times), Median(times) / image);
+}
+
+}  // namespace
+}  // namespace mivo::bench
+
+int main() {
+  mivo::bench::Measure();
+}
