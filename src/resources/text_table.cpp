@@ -1,0 +1,203 @@
+#include "text_table.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace mivo {
+namespace {
+
+struct Entry {
+  TextId id;
+  std::u16string_view text;
+};
+
+constexpr Entry Message(StringId id, std::u16string_view text) {
+  return {{TextKind::String, static_cast<std::int32_t>(id)}, text};
+}
+
+constexpr Entry MenuText(Command command, std::u16string_view text) {
+  return {{TextKind::Command, static_cast<std::int32_t>(command)}, text};
+}
+
+constexpr Entry HintText(Command command, std::u16string_view text) {
+  return {{TextKind::Hint, static_cast<std::int32_t>(command)}, text};
+}
+
+constexpr Entry MenuTitle(MenuId menu, std::u16string_view text) {
+  return {{TextKind::Menu, static_cast<std::int32_t>(menu)}, text};
+}
+
+constexpr auto kMessages = std::to_array<Entry>({
+    Message(StringId::StartFailed, u"Mivo cannot start."),
+    Message(StringId::SizeRange, u"Size must be 1~255."),
+    Message(StringId::BlocksRange, u"Blocks must be 1~255."),
+    Message(StringId::InvalidComponentName, u"Invalid component name."),
+    Message(StringId::OverwriteBitPattern, u"It CREATES BIT-PATTERN and OVERWRITES EXISTING"),
+    Message(StringId::SaveChanges, u"Save changes?"),
+    Message(StringId::CannotUndo, u"You can't undo this command.\nContinue?"),
+    Message(StringId::SaveFailed, u"Cannnot save the document. Try saving as."),
+    Message(StringId::Version, u"0.84.00"),
+    Message(StringId::LaterVersion,
+            u"This file was created by the later version. \nSome data may have been lost."),
+    Message(StringId::FixedBlockRange, u"Fixed Block Number must be 1~255."),
+});
+
+constexpr auto kCommands = std::to_array<Entry>({
+    MenuText(Command::MoveNameUp, u"Move up"),
+    MenuText(Command::MoveNameDown, u"Move down"),
+    MenuText(Command::CutComponent, u"Cut component"),
+    MenuText(Command::CopyComponent, u"Copy component"),
+    MenuText(Command::PasteComponent, u"Paste component"),
+    MenuText(Command::ZoomOut, u"Zoom &Out\tPage down"),
+    MenuText(Command::ZoomIn, u"Zoom &In\tPage up"),
+    MenuText(Command::Selector, u"&Selector\tS"),
+    MenuText(Command::PinTool, u"&Pin\tP"),
+    MenuText(Command::LineTool, u"&Line\tL"),
+    MenuText(Command::CircleTool, u"&Circle\tC"),
+    MenuText(Command::PolygonTool, u"Poly&gon\tG"),
+    MenuText(Command::ArcTool, u"&Arc\tA"),
+    MenuText(Command::Property, u"P&roperty..."),
+    MenuText(Command::NewComponent, u"New component..."),
+    MenuText(Command::ComponentProperty, u"Component property..."),
+    MenuText(Command::Mirror, u"&Mirror\tCtrl+M"),
+    MenuText(Command::Rotate, u"&Rotate\tCtrl+R"),
+    MenuText(Command::EditNodeMode, u"Edit &node mode\tCtrl+D"),
+    MenuText(Command::CreateBitPattern, u"Create &BIT-PATTERN"),
+    MenuText(Command::LibraryProperty, u"Library property..."),
+    MenuText(Command::AddAlias, u"Add alias..."),
+    MenuText(Command::SortByName, u"Sort by name"),
+    MenuText(Command::TextTool, u"&Text\tT"),
+    MenuText(Command::NextPinNumber, u"Next pin number\tF12"),
+    MenuText(Command::NextPinName, u"Next pin name\tF11"),
+    MenuText(Command::PinProperty, u"&Pin property"),
+    MenuText(Command::AddNode, u"Add Node"),
+    MenuText(Command::SwapPinNameAndNumber, u"Swap pin name and pin num"),
+    MenuText(Command::New, u"&New\tCtrl+N"),
+    MenuText(Command::Open, u"&Open...\tCtrl+O"),
+    MenuText(Command::Save, u"&Save\tCtrl+S"),
+    MenuText(Command::SaveAs, u"Save &as..."),
+    MenuText(Command::Delete, u"&Delete\tDel"),
+    MenuText(Command::Copy, u"&Copy\tCtrl+C"),
+    MenuText(Command::Cut, u"Cu&t\tCtrl+X"),
+    MenuText(Command::Paste, u"&Paste\tCtrl+V"),
+    MenuText(Command::Undo, u"&Undo\tCtrl+Z"),
+    MenuText(Command::About, u"&About Mivo..."),
+    MenuText(Command::Exit, u"E&xit"),
+});
+
+constexpr auto kHints = std::to_array<Entry>({
+    HintText(Command::MoveNameUp, u"Move the selected name up"),
+    HintText(Command::MoveNameDown, u"Move the selected name down"),
+    HintText(Command::CutComponent, u"Put the selected component on the clipboard and remove it"),
+    HintText(Command::CopyComponent, u"Put the selected component on the clipboard"),
+    HintText(Command::PasteComponent, u"Insert the component from the clipboard"),
+    HintText(Command::ZoomOut, u"Show more of the component"),
+    HintText(Command::ZoomIn, u"Show the component larger"),
+    HintText(Command::Selector, u"Select and move pins and drawing objects"),
+    HintText(Command::PinTool, u"Place pins on the outline"),
+    HintText(Command::LineTool, u"Draw lines"),
+    HintText(Command::CircleTool, u"Draw ellipses"),
+    HintText(Command::PolygonTool, u"Draw polygons"),
+    HintText(Command::ArcTool, u"Draw arcs"),
+    HintText(Command::Property, u"Edit the properties of the selected element"),
+    HintText(Command::NewComponent, u"Add a new component to the library"),
+    HintText(Command::ComponentProperty, u"Edit the properties of the selected component"),
+    HintText(Command::Mirror, u"Mirror the selected drawing objects left to right"),
+    HintText(Command::Rotate, u"Turn the selected drawing objects by 90 degrees"),
+    HintText(Command::EditNodeMode, u"Drag the nodes of the selected drawing object"),
+    HintText(Command::CreateBitPattern, u"Turn the drawing into the bit pattern"),
+    HintText(Command::LibraryProperty, u"Edit the text of the library"),
+    HintText(Command::AddAlias, u"Give the selected component a further name"),
+    HintText(Command::SortByName, u"Sort the names of the library"),
+    HintText(Command::TextTool, u"Place texts"),
+    HintText(Command::NextPinNumber, u"Give the selected pin the next number"),
+    HintText(Command::NextPinName, u"Give the selected pin the next name"),
+    HintText(Command::PinProperty, u"Show or hide the table of all pins"),
+    HintText(Command::AddNode, u"Insert a node into the edge under the pointer"),
+    HintText(Command::SwapPinNameAndNumber, u"Show pin numbers in the place of pin names"),
+    HintText(Command::New, u"Start a new library"),
+    HintText(Command::Open, u"Open a library or a schematic"),
+    HintText(Command::Save, u"Save the library"),
+    HintText(Command::SaveAs, u"Save the library under another name"),
+    HintText(Command::Delete, u"Delete what is selected"),
+    HintText(Command::Copy, u"Put what is selected on the clipboard"),
+    HintText(Command::Cut, u"Put what is selected on the clipboard and delete it"),
+    HintText(Command::Paste, u"Insert pins or drawing objects from the clipboard"),
+    HintText(Command::Undo, u"Undo the last operation"),
+    HintText(Command::About, u"Show the version of Mivo"),
+    HintText(Command::Exit, u"Quit Mivo"),
+});
+
+constexpr auto kMenus = std::to_array<Entry>({
+    MenuTitle(MenuId::File, u"&File"),
+    MenuTitle(MenuId::Edit, u"&Edit"),
+    MenuTitle(MenuId::Component, u"&Component"),
+    MenuTitle(MenuId::View, u"&View"),
+    MenuTitle(MenuId::Tool, u"&Tool"),
+    MenuTitle(MenuId::Help, u"&Help"),
+});
+
+template <std::size_t... kSizes>
+constexpr auto Joined(const std::array<Entry, kSizes>&... tables) {
+  std::array<Entry, (kSizes + ...)> all{};
+  auto out = all.begin();
+  ((out = std::copy(tables.begin(), tables.end(), out)), ...);
+  return all;
+}
+
+constexpr auto kTexts = Joined(kMessages, kCommands, kHints, kMenus);
+
+constexpr bool kAscending = std::is_sorted(
+    kTexts.begin(), kTexts.end(), [](const Entry& a, const Entry& b) { return !(a.id > b.id); });
+static_assert(kAscending, "the search relies on ascending ids without repetition");
+
+constexpr auto kIds = [] {
+  std::array<TextId, kTexts.size()> ids{};
+  std::transform(kTexts.begin(), kTexts.end(), ids.begin(), [](const Entry& e) { return e.id; });
+  return ids;
+}();
+
+}  // namespace
+
+std::u16string_view BuiltInText(TextId id) noexcept {
+  const auto found =
+      std::lower_bound(kTexts.begin(), kTexts.end(), id,
+                       [](const Entry& entry, const TextId& wanted) { return entry.id < wanted; });
+  return found != kTexts.end() && found->id == id ? found->text : std::u16string_view();
+}
+
+std::span<const TextId> AllTextIds() noexcept {
+  return kIds;
+}
+
+bool TextTable::Translate(Translation translation) {
+  const TextId version{TextKind::String, static_cast<std::int32_t>(StringId::Version)};
+  if (!translation || translation(version) != BuiltInText(version)) return false;
+  translation_ = std::move(translation);
+  return true;
+}
+
+std::u16string TextTable::Text(TextId id) const {
+  std::u16string text;
+  if (translation_) text = translation_(id);
+  return text.empty() ? std::u16string(BuiltInText(id)) : text;
+}
+
+std::u16string TextTable::Text(StringId id) const {
+  return Text(TextId{TextKind::String, static_cast<std::int32_t>(id)});
+}
+
+std::u16string TextTable::Text(Command command) const {
+  return Text(TextId{TextKind::Command, static_cast<std::int32_t>(command)});
+}
+
+std::u16string TextTable::Hint(Command command) const {
+  return Text(TextId{TextKind::Hint, static_cast<std::int32_t>(command)});
+}
+
+std::u16string TextTable::Text(MenuId menu) const {
+  return Text(TextId{TextKind::Menu, static_cast<std::int32_t>(menu)});
+}
+
+}  // namespace mivo

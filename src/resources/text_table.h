@@ -1,0 +1,73 @@
+#ifndef MIVO_RESOURCES_TEXT_TABLE_H
+#define MIVO_RESOURCES_TEXT_TABLE_H
+
+#include <compare>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "command.h"
+
+namespace mivo {
+
+enum class TextKind : std::int32_t {
+  String = 0,   ///< messages and other texts; `number` is a StringId
+  Command = 1,  ///< menu text with mnemonic and, behind a tab, the keys; `number` is a Command
+  Hint = 2,     ///< tool tip and status text of a command; `number` is a Command
+  Menu = 3,     ///< title of a menu; `number` is a MenuId
+};
+
+/// Names one text of the program.
+struct TextId {
+  TextKind kind;
+  std::int32_t number;
+  auto operator<=>(const TextId&) const = default;
+};
+
+enum class StringId : std::int32_t {
+  StartFailed = 100,
+  SizeRange = 129,
+  BlocksRange = 130,
+  InvalidComponentName = 131,
+  OverwriteBitPattern = 132,
+  SaveChanges = 133,
+  CannotUndo = 135,
+  SaveFailed = 136,
+  Version = 143,
+  LaterVersion = 144,
+  FixedBlockRange = 145,
+};
+
+enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };
+
+/// The program's own text; empty for an id that does not exist. Any thread, never changes.
+[[nodiscard]] std::u16string_view BuiltInText(TextId id) noexcept;
+
+/// Every id that has a text, in ascending order: what a translation must cover.
+[[nodiscard]] std::span<const TextId> AllTextIds() noexcept;
+
+/// The texts that the program shows: a translation's where it has one, else the built-in ones.
+class TextTable {
+ public:
+  /// Looks up a translated text; empty where the translation has none.
+  using Translation = std::function<std::u16string(TextId)>;
+
+  /// Takes the translation when its version text (StringId::Version) is the program's; texts of
+  /// another version may belong to other commands. False when it is not taken.
+  bool Translate(Translation translation);
+
+  [[nodiscard]] std::u16string Text(TextId id) const;
+  [[nodiscard]] std::u16string Text(StringId id) const;
+  [[nodiscard]] std::u16string Text(Command command) const;
+  [[nodiscard]] std::u16string Hint(Command command) const;
+  [[nodiscard]] std::u16string Text(MenuId menu) const;
+
+ private:
+  Translation translation_;
+};
+
+}  // namespace mivo
+
+#endif
