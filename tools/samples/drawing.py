@@ -134,6 +134,10 @@ class Arc:
         writer.numbers(R=self.radius, B=round(self.begin * 16), E=round(self.end * 16))
         writer.line("-AR")
 
+    def mapped(self, to):
+        """For what keeps directions: the angles stay."""
+        return replace(self, center=to(self.center))
+
     def points(self):
         x, y = self.center
         return [(x - self.radius, y - self.radius), (x + self.radius, y + self.radius)]
@@ -185,10 +189,4 @@ def circle(x, y, radius, **looks):
 
 
 def moved(objects, dx, dy):
-    result = []
-    for item in objects:
-        if isinstance(item, Arc):
-            result.append(replace(item, center=(item.center[0] + dx, item.center[1] + dy)))
-        else:
-            result.append(item.mapped(lambda point: (point[0] + dx, point[1] + dy)))
-    return result
+    return [item.mapped(lambda point: (point[0] + dx, point[1] + dy)) for item in objects]

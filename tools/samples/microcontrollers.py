@@ -202,8 +202,8 @@ def small_controllers():
         ),
         box(
             "MSP430G2553IN20",
-            left=numbered(2, "P1.0 P1.1/RXD P1.2/TXD P1.3 P1.4 P1.5/SCLK")
-            + "\n14 P1.6/SCL\n15 P1.7/SDA\n.\n16 {RST}/NMI/?SBWTDIO\n17 TEST/?SBWTCK",
+            left=numbered(2, "P1.0 P1.1/UCA0RXD P1.2/UCA0TXD P1.3 P1.4 P1.5/UCB0CLK")
+            + "\n14 P1.6/UCB0SCL\n15 P1.7/UCB0SDA\n.\n16 {RST}/NMI/?SBWTDIO\n17 TEST/?SBWTCK",
             right=numbered(8, "P2.0 P2.1 P2.2 P2.3 P2.4 P2.5") + "\n.\n19 XIN/P2.6\n18 XOUT/P2.7",
             top="1 DVCC",
             bottom="20 DVSS",

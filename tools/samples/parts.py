@@ -1,7 +1,7 @@
 """Components with their pins, and the library that lists them."""
 
 import re
-from dataclasses import dataclass, field
+from dataclasses import dataclass
 
 from bitmap import Bitmap
 from records import RecordWriter
@@ -81,7 +81,7 @@ class Component:
     maker: str = ""
     part: str = ""  # the maker's number
     package: str = ""
-    aliases: tuple = field(default=())
+    aliases: tuple = ()
 
     @property
     def blocks(self):

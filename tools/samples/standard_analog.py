@@ -52,8 +52,8 @@ def amplifiers():
             maker=TI,
             part="LM358P",
             package="DIP8",
-            note="Dual operational amplifier, single supply 3 V to 32 V.\r\n"
-            "Both blocks show the supply pins; the output swings to the negative rail.",
+            note="Dual operational amplifier; the LM358 works from 3 V to 32 V.\r\n"
+            "Both blocks show the supply pins.",
             aliases=("LM2904", "TL072", "NE5532"),
         ),
         triangle(

@@ -81,19 +81,14 @@ def led():
 
 def bridge():
     """Four diodes on the sides of a diamond, all pointing to the right."""
-    top, right, bottom, left = (30, 0), (60, 30), (30, 60), (0, 30)
-    drawing = [Polygon((top, right, bottom, left))]
-    for x, y, rising in ((15, 15, True), (45, 15, False), (45, 45, True), (15, 45, False)):
-        sign = -1 if rising else 1
-        tip = (x + 4, y + 4 * sign)
-        tail = ((x - 7, y + sign), (x - 1, y - 5 * sign))
-        if rising:
-            tail = ((x - 7, y + 1), (x - 1, y + 7))
-            cross = ((x, y - 8), (x + 8, y))
-        else:
-            tail = ((x - 1, y - 7), (x - 7, y - 1))
-            cross = ((x + 8, y), (x, y + 8))
-        drawing += [Polygon((tip, *tail), fill=FILLED), Line(*cross, width=2)]
+    drawing = [Polygon(((30, 0), (60, 30), (30, 60), (0, 30)))]
+    for x, y, slope in ((15, 15, -1), (45, 15, 1), (45, 45, -1), (15, 45, 1)):
+        triangle = ((4, 4), (-1, -7), (-7, -1))
+        stop = ((8, 0), (0, 8))
+        drawing += [
+            Polygon(tuple((x + dx, y + slope * dy) for dx, dy in triangle), fill=FILLED),
+            Line(*((x + dx, y + slope * dy) for dx, dy in stop), width=2),
+        ]
     return Component(
         name="BRIDGE",
         size=(6, 6),
@@ -109,38 +104,24 @@ def bridge():
     )
 
 
+def segments(x, y, length):
+    """The seven segments of a digit; (x, y) is where the top one begins."""
+    half, gap = 3, 2
+    ends = (gap, gap + half, length - gap - half, length - gap)
+    along = tuple(zip((*ends, *ends[2:0:-1]), (0, -half, -half, 0, half, half)))
+    lying = [(x, y), (x, y + length), (x, y + 2 * length)]
+    standing = [(x + dx, y + dy) for dx in (0, length) for dy in (0, length)]
+    return [
+        *(tuple((left + a, top + b) for a, b in along) for left, top in lying),
+        *(tuple((left + b, top + a) for a, b in along) for left, top in standing),
+    ]
+
+
 def display():
-    """Seven segments, all of them lit: the outlines are drawn, the bit pattern fills them."""
-    x, y, length, half = 28, 22, 24, 3
-    segments = []
-    for top, left in ((0, 0), (length, 0), (2 * length, 0)):
-        row, column = y + top, x + left
-        segments.append(
-            (
-                (column + 2, row),
-                (column + 2 + half, row - half),
-                (column + length - 2 - half, row - half),
-                (column + length - 2, row),
-                (column + length - 2 - half, row + half),
-                (column + 2 + half, row + half),
-            )
-        )
-    for top, left in ((0, 0), (0, length), (length, 0), (length, length)):
-        row, column = y + top, x + left
-        segments.append(
-            (
-                (column, row + 2),
-                (column + half, row + 2 + half),
-                (column + half, row + length - 2 - half),
-                (column, row + length - 2),
-                (column - half, row + length - 2 - half),
-                (column - half, row + 2 + half),
-            )
-        )
-    point = circle(x + length + 12, y + 2 * length, 3)
-    outlines = [*(Polygon(corners) for corners in segments), point]
-    lit = [Polygon(corners, fill=FILLED) for corners in segments]
-    lit.append(circle(x + length + 12, y + 2 * length, 3, fill=FILLED))
+    """All segments are lit: their outlines are drawn, and the bit pattern fills them."""
+    digit, point = segments(28, 22, 24), (64, 70)
+    outlines = [*(Polygon(corners) for corners in digit), circle(*point, 3)]
+    lit = [*(Polygon(corners, fill=FILLED) for corners in digit), circle(*point, 3, fill=FILLED)]
     size = (8, 9)
     frame = [rectangle(0, 0, 80, 90)]
     cathodes = (pin("B3", "3", "?K"), pin("B5", "8", "?K"))

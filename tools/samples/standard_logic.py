@@ -128,7 +128,6 @@ def supply(numbers, vcc, gnd, package):
 
 
 def flip_flops():
-    latch = {"maker": TI}
     return [
         box(
             "7474",
@@ -141,7 +140,7 @@ def flip_flops():
             package="DIP14",
             note="Dual D flip-flop with preset and clear",
             aliases=("74LS74", "74HC74"),
-            **latch,
+            maker=TI,
         ),
         box(
             "74112",
@@ -154,7 +153,7 @@ def flip_flops():
             package="DIP16",
             note="Dual JK flip-flop, triggered by the falling edge",
             aliases=("74LS112", "74HC112"),
-            **latch,
+            maker=TI,
         ),
     ]
 
