@@ -49,8 +49,8 @@ std::error_code CreateBeside(const std::filesystem::path& target, NativeFile::Ac
 
 }  // namespace
 
-FileWriter::FileWriter(const std::filesystem::path& target)
-    : file_(std::make_unique<NativeFile>()) {
+FileWriter::FileWriter(const std::filesystem::path& target, Durability durability)
+    : durability_(durability), file_(std::make_unique<NativeFile>()) {
   Open(target);
 }
 
@@ -89,10 +89,11 @@ bool FileWriter::Write(std::string_view bytes) {
 }
 
 bool FileWriter::Commit() {
-  if (!error_) Check(file_->Flush());
+  const bool flushes = durability_ == Durability::OnDisk;
+  if (!error_ && flushes) Check(file_->Flush());
   if (file_->IsOpen()) Check(file_->Close());
   if (temporary_.empty()) return !error_;
-  if (!error_) Check(MoveOver(temporary_, target_));
+  if (!error_ && Check(MoveOver(temporary_, target_)) && flushes) FlushFolderOf(target_);
   if (error_) RemoveFile(temporary_);
   temporary_.clear();
   return !error_;

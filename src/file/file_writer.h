@@ -26,8 +26,14 @@ class FileWriter final : public ByteSink {
   /// The temporary file of NAME is .NAME.mivo-XXXXXX, a long NAME cut off.
   static constexpr std::string_view kTemporaryMark = ".mivo-";
 
+  enum class Durability {
+    OnDisk,          ///< Commit returns once the new file is on the disk
+    LeftToTheSystem  ///< Commit waits for no disk; for what can be lost without harm
+  };
+
   /// Opens everything at once; a failure shows in Write and Commit.
-  explicit FileWriter(const std::filesystem::path& target);
+  explicit FileWriter(const std::filesystem::path& target,
+                      Durability durability = Durability::OnDisk);
   /// Without a Commit, leaves the target as it was.
   ~FileWriter() override;
   FileWriter(const FileWriter&) = delete;
@@ -47,6 +53,7 @@ class FileWriter final : public ByteSink {
   void Open(const std::filesystem::path& target);
   bool Check(const std::error_code& error);
 
+  Durability durability_;
   std::unique_ptr<NativeFile> file_;
   std::filesystem::path target_;     // links followed
   std::filesystem::path temporary_;  // empty once it is gone, and for a target written directly

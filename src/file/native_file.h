@@ -75,6 +75,10 @@ class NativeFile {
 [[nodiscard]] std::error_code MoveOver(const std::filesystem::path& source,
                                        const std::filesystem::path& target);
 
+/// Returns once the disk knows what the folder around `path` holds; a folder that cannot be flushed
+/// is passed over.
+void FlushFolderOf(const std::filesystem::path& path) noexcept;
+
 void RemoveFile(const std::filesystem::path& path) noexcept;
 
 }  // namespace mivo

@@ -40,13 +40,6 @@ std::error_code Open(const std::filesystem::path& path, int flags, mode_t mode,
 
 /// Makes the entry of a renamed file last. Nothing depends on its success: the content is safe
 /// already, and a folder that may not be read cannot be flushed.
-void FlushFolderOf(const std::filesystem::path& path) {
-  const std::filesystem::path folder = path.parent_path();
-  const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  fsync(descriptor);
-  close(descriptor);
-}
 
 }  // namespace
 
@@ -170,9 +163,15 @@ std::filesystem::path FinalTarget(const std::filesystem::path& path) {
 }
 
 std::error_code MoveOver(const std::filesystem::path& source, const std::filesystem::path& target) {
-  if (std::rename(source.c_str(), target.c_str()) != 0) return LastError();
-  FlushFolderOf(target);
-  return {};
+  return std::rename(source.c_str(), target.c_str()) == 0 ? std::error_code() : LastError();
+}
+
+void FlushFolderOf(const std::filesystem::path& path) noexcept {
+  const std::filesystem::path folder = path.parent_path();
+  const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  fsync(descriptor);
+  close(descriptor);
 }
 
 void RemoveFile(const std::filesystem::path& path) noexcept {

@@ -157,6 +157,10 @@ std::error_code MoveOver(const std::filesystem::path& source, const std::filesys
   return LastError();
 }
 
+void FlushFolderOf(const std::filesystem::path& /*path*/) noexcept {
+  // The system keeps its folders in order by itself.
+}
+
 void RemoveFile(const std::filesystem::path& path) noexcept {
   DeleteFileW(path.c_str());
 }

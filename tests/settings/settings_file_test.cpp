@@ -1,0 +1,76 @@
+#include "settings_file.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace mivo {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SettingsFileTest : public testing::Test {
+ protected:
+  SettingsFileTest() {
+    std::string pattern = fs::temp_directory_path() / "mivo-settings-XXXXXX";
+    folder_ = mkdtemp(pattern.data());
+  }
+  ~SettingsFileTest() override { fs::remove_all(folder_); }
+
+  [[nodiscard]] fs::path File() const { return folder_ / "MIVO.INI"; }
+  void Put(std::string_view content) const { std::ofstream(File(), std::ios::binary) << content; }
+  [[nodiscard]] std::string Content() const {
+    std::ifstream stream(File(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+  }
+
+ private:
+  fs::path folder_;
+};
+
+TEST_F(SettingsFileTest, WritesAChangedValueAndNothingElse) {
+  Put("; mine\n[Setting]\nEditWindowMargin=0\n");
+  SettingsFile settings(File());
+  settings.SetInt(u"Setting", u"EditWindowMargin", 80);
+  EXPECT_EQ(settings.GetInt(u"Setting", u"EditWindowMargin", 0), 80);
+  EXPECT_EQ(Content(), "; mine\n[Setting]\nEditWindowMargin=80\n");
+}
+
+TEST_F(SettingsFileTest, SameValueLeavesTheFileAlone) {
+  Put("[Setting]\nEditWindowMargin=0\n");
+  SettingsFile settings(File());
+  fs::last_write_time(File(), fs::file_time_type{});
+  settings.SetInt(u"Setting", u"EditWindowMargin", 0);
+  EXPECT_EQ(fs::last_write_time(File()), fs::file_time_type{});
+}
+
+TEST_F(SettingsFileTest, KeepsWhatAnotherProgramWroteMeanwhile) {
+  Put("[Setting]\na=1\n");
+  SettingsFile settings(File());
+  Put("[Setting]\na=1\nb=2\n");
+  settings.SetInt(u"Setting", u"a", 3);
+  EXPECT_EQ(Content(), "[Setting]\na=3\nb=2\n");
+}
+
+TEST_F(SettingsFileTest, FileThatCannotBeReadGivesDefaultsAndIsNotCreated) {
+  SettingsFile settings(File());
+  EXPECT_EQ(settings.GetInt(u"Setting", u"a", 7), 7);
+  EXPECT_EQ(settings.GetString(u"LabelFont", u"FaceName", u"Tahoma"), u"Tahoma");
+  settings.SetInt(u"Setting", u"a", 3);
+  EXPECT_EQ(settings.GetInt(u"Setting", u"a", 7), 3);
+  EXPECT_FALSE(fs::exists(File()));
+}
+
+TEST_F(SettingsFileTest, HugeFileIsNoSettingsFile) {
+  Put("[Setting]\na=1\n" + std::string(std::size_t{2} << 20, ';'));
+  const std::string before = Content();
+  SettingsFile settings(File());
+  EXPECT_EQ(settings.GetInt(u"Setting", u"a", 7), 7);
+  settings.SetInt(u"Setting", u"a", 3);
+  EXPECT_EQ(Content(), before);
+}
+
+}  // namespace
+}  // namespace mivo
