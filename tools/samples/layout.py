@@ -11,7 +11,7 @@ CELL = 10
 CHARACTER = 6
 TEXT_HEIGHT = 10
 NAME_GAP = 5  # from the outline to the name
-APART = 6  # at least between two names that face each other
+APART = 10  # at least between two names that face each other
 MAX_SIDE = 255  # cells
 
 
