@@ -6,9 +6,9 @@
 namespace mivo {
 namespace {
 
-std::unique_ptr<SPtnObj> MakeRawObject(const ObjectSpec& spec) {
-  const auto& [a, b, c] = spec.points;
-  switch (spec.type) {
+std::unique_ptr<SPtnObj> MakeRawObject(const ObjectRecipe& recipe) {
+  const auto& [a, b, c] = recipe.points;
+  switch (recipe.type) {
     case PtnObjType::Circle:
       return MakeCircle(a, b);
     case PtnObjType::Polygon:
@@ -34,36 +34,36 @@ std::ostream& operator<<(std::ostream& out, SPinLocation location) {
   return out << "LTRB"[static_cast<int>(location.side)] << location.offset;
 }
 
-std::ostream& operator<<(std::ostream& out, const ObjectSpec& spec) {
-  out << "object of type " << static_cast<int>(spec.type) << " at";
-  for (const SPoint point : spec.points) out << " (" << point.x << ", " << point.y << ")";
+std::ostream& operator<<(std::ostream& out, const ObjectRecipe& recipe) {
+  out << "object of type " << static_cast<int>(recipe.type) << " at";
+  for (const SPoint point : recipe.points) out << " (" << point.x << ", " << point.y << ")";
   return out;
 }
 
 }  // namespace
 
-std::unique_ptr<SPtnObj> MakeObject(const ObjectSpec& spec) {
-  std::unique_ptr<SPtnObj> object = MakeRawObject(spec);
+std::unique_ptr<SPtnObj> MakeObject(const ObjectRecipe& recipe) {
+  std::unique_ptr<SPtnObj> object = MakeRawObject(recipe);
   static_cast<void>(object->IsValid());          // drops repeated vertices
   static_cast<void>(object->GetBoundingRect());  // reduces angles
   return object;
 }
 
-SComponent MakeComponent(const ComponentSpec& spec) {
+SComponent MakeComponent(const ComponentRecipe& recipe) {
   std::vector<SCompPin> pins;
-  for (const SPinLocation location : spec.pins) {
+  for (const SPinLocation location : recipe.pins) {
     pins.push_back(MakePin(location.side, location.offset, u"\\A9"));
   }
   Objects objects;
-  for (const ObjectSpec& object : spec.objects) objects.push_back(MakeObject(object));
-  return MakeComponent(kGeneratedSize, 2, std::move(pins), spec.drawn ? Drawn::Yes : Drawn::No,
+  for (const ObjectRecipe& object : recipe.objects) objects.push_back(MakeObject(object));
+  return MakeComponent(kGeneratedSize, 2, std::move(pins), recipe.drawn ? Drawn::Yes : Drawn::No,
                        std::move(objects));
 }
 
-std::ostream& operator<<(std::ostream& out, const ComponentSpec& spec) {
-  out << (spec.drawn ? "drawn" : "not drawn");
-  for (const SPinLocation location : spec.pins) out << ", pin " << location;
-  for (const ObjectSpec& object : spec.objects) out << ", " << object;
+std::ostream& operator<<(std::ostream& out, const ComponentRecipe& recipe) {
+  out << (recipe.drawn ? "drawn" : "not drawn");
+  for (const SPinLocation location : recipe.pins) out << ", pin " << location;
+  for (const ObjectRecipe& object : recipe.objects) out << ", " << object;
   return out;
 }
 
@@ -87,9 +87,9 @@ std::ostream& operator<<(std::ostream& out, const EditStep& step) {
 
 namespace rc {
 
-using mivo::ComponentSpec;
+using mivo::ComponentRecipe;
 using mivo::EditStep;
-using mivo::ObjectSpec;
+using mivo::ObjectRecipe;
 using mivo::PinSide;
 using mivo::PtnObjType;
 using mivo::SPinLocation;
@@ -110,18 +110,18 @@ Gen<SPinLocation> Arbitrary<SPinLocation>::arbitrary() {
       gen::set(&SPinLocation::offset, gen::inRange(0, 7)));
 }
 
-Gen<ObjectSpec> Arbitrary<ObjectSpec>::arbitrary() {
-  return gen::build<ObjectSpec>(
-      gen::set(&ObjectSpec::type,
+Gen<ObjectRecipe> Arbitrary<ObjectRecipe>::arbitrary() {
+  return gen::build<ObjectRecipe>(
+      gen::set(&ObjectRecipe::type,
                gen::element(PtnObjType::Line, PtnObjType::Circle, PtnObjType::Polygon,
                             PtnObjType::Arc, PtnObjType::Text)),
-      gen::set(&ObjectSpec::points));
+      gen::set(&ObjectRecipe::points));
 }
 
-Gen<ComponentSpec> Arbitrary<ComponentSpec>::arbitrary() {
-  return gen::build<ComponentSpec>(
-      gen::set(&ComponentSpec::pins), gen::set(&ComponentSpec::objects),
-      gen::set(&ComponentSpec::drawn, gen::weightedElement<bool>({{9, true}, {1, false}})));
+Gen<ComponentRecipe> Arbitrary<ComponentRecipe>::arbitrary() {
+  return gen::build<ComponentRecipe>(
+      gen::set(&ComponentRecipe::pins), gen::set(&ComponentRecipe::objects),
+      gen::set(&ComponentRecipe::drawn, gen::weightedElement<bool>({{9, true}, {1, false}})));
 }
 
 Gen<EditStep> Arbitrary<EditStep>::arbitrary() {

@@ -13,25 +13,25 @@
 namespace mivo {
 
 /// What a drawing object is made of, so that a failing case can be shown and made smaller.
-struct ObjectSpec {
+struct ObjectRecipe {
   PtnObjType type = PtnObjType::Line;
   std::array<SPoint, 3> points;
 };
 
 /// The object; it is already in the form into which hit tests and bounding rectangles bring it, and
 /// may be degenerate.
-[[nodiscard]] std::unique_ptr<SPtnObj> MakeObject(const ObjectSpec& spec);
+[[nodiscard]] std::unique_ptr<SPtnObj> MakeObject(const ObjectRecipe& recipe);
 
 /// What a component is made of.
-struct ComponentSpec {
+struct ComponentRecipe {
   std::vector<SPinLocation> pins;
-  std::vector<ObjectSpec> objects;
+  std::vector<ObjectRecipe> objects;
   bool drawn = true;
 };
 
 /// A component of kGeneratedSize cells.
 inline constexpr SPoint kGeneratedSize{6, 4};
-[[nodiscard]] SComponent MakeComponent(const ComponentSpec& spec);
+[[nodiscard]] SComponent MakeComponent(const ComponentRecipe& recipe);
 
 /// One thing that a user does to the document. What the arguments mean depends on the action;
 /// numbers of elements and nodes are taken modulo their count.
@@ -61,11 +61,11 @@ struct EditStep {
 
   Action action = Action::Release;
   SPinLocation location;
-  ObjectSpec object;
+  ObjectRecipe object;
   std::uint32_t index = 0;
 };
 
-std::ostream& operator<<(std::ostream& out, const ComponentSpec& spec);
+std::ostream& operator<<(std::ostream& out, const ComponentRecipe& recipe);
 std::ostream& operator<<(std::ostream& out, const EditStep& step);
 
 }  // namespace mivo
@@ -81,12 +81,12 @@ struct Arbitrary<mivo::SPinLocation> {
   static Gen<mivo::SPinLocation> arbitrary();
 };
 template <>
-struct Arbitrary<mivo::ObjectSpec> {
-  static Gen<mivo::ObjectSpec> arbitrary();
+struct Arbitrary<mivo::ObjectRecipe> {
+  static Gen<mivo::ObjectRecipe> arbitrary();
 };
 template <>
-struct Arbitrary<mivo::ComponentSpec> {
-  static Gen<mivo::ComponentSpec> arbitrary();
+struct Arbitrary<mivo::ComponentRecipe> {
+  static Gen<mivo::ComponentRecipe> arbitrary();
 };
 template <>
 struct Arbitrary<mivo::EditStep> {

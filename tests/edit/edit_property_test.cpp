@@ -22,7 +22,7 @@ namespace {
 /// checks every undo against that.
 class Editor {
  public:
-  explicit Editor(const ComponentSpec& spec) : component_(MakeComponent(spec)) {
+  explicit Editor(const ComponentRecipe& recipe) : component_(MakeComponent(recipe)) {
     doc_.Load(&component_);
     loaded_ = Shown(doc_);
   }
@@ -214,16 +214,16 @@ class Editor {
 };
 
 RC_GTEST_PROP(EditProperty, EveryUndoGivesThePreviousDocumentAndEnoughOfThemTheLoadedOne,
-              (const ComponentSpec& spec, const std::vector<EditStep>& steps)) {
-  Editor editor(spec);
+              (const ComponentRecipe& recipe, const std::vector<EditStep>& steps)) {
+  Editor editor(recipe);
   for (const EditStep& step : steps) editor.Perform(step);
   editor.UndoAll();
 }
 
 RC_GTEST_PROP(EditProperty, WriteBackThenLoadGivesWhatTheDocumentShowed,
-              (ComponentSpec spec, const std::vector<EditStep>& steps)) {
-  spec.drawn = true;
-  Editor editor(spec);
+              (ComponentRecipe recipe, const std::vector<EditStep>& steps)) {
+  recipe.drawn = true;
+  Editor editor(recipe);
   for (const EditStep& step : steps) editor.Perform(step);
   editor.WriteBackAndReload();
 }
@@ -231,10 +231,10 @@ RC_GTEST_PROP(EditProperty, WriteBackThenLoadGivesWhatTheDocumentShowed,
 // --- Clipboard texts -----------------------------------------------------------------------------
 
 RC_GTEST_PROP(ClipboardTextProperty, PatternTextRoundTrip,
-              (const std::vector<ObjectSpec>& specs, SPoint origin)) {
+              (const std::vector<ObjectRecipe>& recipes, SPoint origin)) {
   std::vector<SCompEditElm> selection;
-  for (const ObjectSpec& spec : specs) {
-    std::unique_ptr<SPtnObj> object = MakeObject(spec);
+  for (const ObjectRecipe& recipe : recipes) {
+    std::unique_ptr<SPtnObj> object = MakeObject(recipe);
     if (object->IsValid()) selection.emplace_back(1, std::move(object));
   }
   const std::u16string text = WriteClipboardText(selection, origin);
