@@ -11,8 +11,9 @@
 namespace mivo {
 namespace {
 
-/// Parities of the edges that a ray from `p` toward smaller y crosses. An edge that ends on the ray
-/// counts on the side of its other end only, so that a vertex on the ray is not counted twice.
+/// Parities of the edges that a ray from `p` toward smaller y crosses, one for each side of it. An
+/// edge that ends on the ray counts on the side of its other end only; but one that lies above `p`
+/// altogether always counts in full, and in this order the rules decide which points are hit.
 class RayParity {
  public:
   explicit RayParity(SPoint p) : p_(p) {}

@@ -5,6 +5,8 @@
 
 #include <limits>
 
+#include "case_name.h"
+
 namespace mivo {
 namespace {
 
@@ -22,8 +24,6 @@ class ParseIntOf : public testing::TestWithParam<IntCase> {};
 TEST_P(ParseIntOf, Gives) {
   EXPECT_EQ(ParseInt(GetParam().text), GetParam().value);
 }
-
-constexpr auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
 
 INSTANTIATE_TEST_SUITE_P(
     , ParseIntOf,

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+#include "case_name.h"
+
 namespace mivo {
 namespace {
 
@@ -15,8 +17,6 @@ struct Utf8Case {
   std::string_view bytes;
   std::u16string_view text;
 };
-
-constexpr auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
 
 /// Decodes `bytes` handed over in the given pieces, with room for `room` units a call, as a reader
 /// of a file does.

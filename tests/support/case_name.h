@@ -1,0 +1,13 @@
+#ifndef MIVO_TESTS_SUPPORT_CASE_NAME_H
+#define MIVO_TESTS_SUPPORT_CASE_NAME_H
+
+#include <string>
+
+namespace mivo {
+
+/// Names the instances of a table-driven test after the member `name` of their cases.
+inline constexpr auto kCaseName = [](const auto& info) { return std::string(info.param.name); };
+
+}  // namespace mivo
+
+#endif
