@@ -29,8 +29,11 @@ void SRecordReader::AttachString(std::u16string_view text) {
 void SRecordReader::AttachFile(ByteSource& source, ByteDecoding decoding) {
   source_ = &source;
   decoding_ = decoding;
-  bytes_.clear();
-  if (!window_) window_ = std::make_unique<char16_t[]>(kPieceBytes);
+  byteCount_ = 0;
+  if (!window_) {
+    bytes_ = std::make_unique<char[]>(kPieceBytes);
+    window_ = std::make_unique<char16_t[]>(kPieceBytes);
+  }
   Start(window_.get(), window_.get());
 }
 
@@ -47,21 +50,21 @@ void SRecordReader::Start(const char16_t* begin, const char16_t* end) {
 bool SRecordReader::Refill() {
   // The padding of an unterminated field asks for thousands of characters behind the end.
   if (source_ == nullptr || exhausted_) return false;
-  const std::size_t kept = bytes_.size();
-  bytes_.resize(kPieceBytes);
-  const std::size_t got = source_->Read(std::span(bytes_).subspan(kept));
-  bytes_.resize(kept + got);
+  const std::size_t got = source_->Read(std::span(bytes_.get(), kPieceBytes).subspan(byteCount_));
+  byteCount_ += got;
   exhausted_ = got == 0;
-  if (bytes_.empty()) return false;
+  if (byteCount_ == 0) return false;
 
-  DecodeProgress progress{bytes_.size(), bytes_.size()};
+  const std::string_view bytes(bytes_.get(), byteCount_);
+  DecodeProgress progress{byteCount_, byteCount_};
   if (decoding_ == ByteDecoding::Utf8) {
-    progress = DecodeUtf8(bytes_, std::span(window_.get(), kPieceBytes), exhausted_);
+    progress = DecodeUtf8(bytes, std::span(window_.get(), kPieceBytes), exhausted_);
   } else {
-    std::transform(bytes_.begin(), bytes_.end(), window_.get(),
+    std::transform(bytes.begin(), bytes.end(), window_.get(),
                    [](char byte) { return static_cast<char16_t>(static_cast<signed char>(byte)); });
   }
-  bytes_.erase(0, progress.bytesRead);
+  byteCount_ -= progress.bytesRead;
+  std::copy_n(bytes_.get() + progress.bytesRead, byteCount_, bytes_.get());
   windowOffset_ += end_ - windowBegin_;
   windowBegin_ = current_ = window_.get();
   end_ = current_ + progress.unitsWritten;

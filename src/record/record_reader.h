@@ -112,7 +112,9 @@ class SRecordReader {
   ByteDecoding decoding_ = ByteDecoding::Utf8;
   std::unique_ptr<char16_t[]> window_;
   bool exhausted_ = false;  // the source has nothing more
-  std::string bytes_;  // read but not decoded yet: a character cut off by the end of the last piece
+  // Read but not decoded yet: a character cut off by the end of the last piece.
+  std::unique_ptr<char[]> bytes_;
+  std::size_t byteCount_ = 0;
 
   std::u16string scratch_;  // a field that is not a stretch of the characters at hand
 
