@@ -2,7 +2,6 @@
 
 from drawing import Polygon
 from layout import CELL, collisions, overhanging
-from parts import SIDES
 
 # Drawings may reach a little over the body, as far as the editor keeps them.
 OVERHANG = 15
@@ -30,7 +29,7 @@ def _faults(item):
         if places.count(place) > 1:
             yield f"two pins at {place}"
     for single in item.pins:
-        length = item.size[SIDES.index(single.side) % 2 == 0]
+        length = item.size[0 if single.is_upright else 1]
         if not 0 < single.offset < length:
             yield f"pin {single.place} is not on the outline"
         if len(single.numbers) != item.blocks:

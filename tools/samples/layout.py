@@ -12,6 +12,7 @@ CHARACTER = 6
 TEXT_HEIGHT = 10
 NAME_GAP = 5  # from the outline to the name
 APART = 10  # at least between two names that face each other
+ASIDE = 5  # at least between a name and one that is written upright
 MAX_SIDE = 255  # cells
 
 
@@ -55,7 +56,7 @@ def collisions(pins, size):
         (a.name, b.name)
         for index, (box_a, a) in enumerate(boxes)
         for box_b, b in boxes[:index]
-        if _meet(box_a, box_b)
+        if _meet(box_a, box_b, ASIDE if a.is_upright != b.is_upright else 0)
     ]
 
 
@@ -81,8 +82,8 @@ def name_box(item, size):
     }[item.side]
 
 
-def _meet(a, b):
-    return a[0] < b[2] and b[0] < a[2] and a[1] < b[3] and b[1] < a[3]
+def _meet(a, b, aside):
+    return a[0] < b[2] + aside and b[0] < a[2] + aside and a[1] < b[3] and b[1] < a[3]
 
 
 def _rows(text):

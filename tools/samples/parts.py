@@ -8,7 +8,6 @@ from records import RecordWriter
 
 VERSION = 82
 WHOLE_NAME_SHOWN = 0xFFFFFFFF
-SIDES = "LTRB"
 # Pin styles in the order of a record: Z square, S short, N negation bubble, C clock, m hidden number.
 STYLES = "ZSNCm"
 
@@ -30,6 +29,11 @@ class Pin:
     @property
     def offset(self):
         return int(self.place[1:])
+
+    @property
+    def is_upright(self):
+        """Whether the line of the pin, and with it the name, runs up and down."""
+        return self.side in "TB"
 
     @property
     def shows_name(self):
