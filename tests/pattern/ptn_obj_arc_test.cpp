@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(, ArcAngleOf,
                                          AngleCase{{-50, 0}, 2880}, AngleCase{{-9, 9}, 3600},
                                          AngleCase{{0, 5}, 4320}, AngleCase{{2, 2}, 5040},
                                          AngleCase{{100, -1}, 9}, AngleCase{{100, 1}, 5751},
-                                         AngleCase{{3, -4}, 850},
+                                         AngleCase{{3, -4}, 850}, AngleCase{{4, -1}, 225},
                                          // Rounds up to a full turn, which is not reduced.
                                          AngleCase{{100000, 1}, 5760}));
 
@@ -353,6 +353,7 @@ TEST(ArcHitTest, AllowsOneUnitFromTheCircle) {
   EXPECT_FALSE(arc.HitTest({108, 200}));
   EXPECT_TRUE(arc.HitTest({107, 193}));
   EXPECT_FALSE(arc.HitTest({106, 194}));
+  EXPECT_FALSE(arc.HitTest({108, 192}));
 }
 
 TEST(ArcHitTest, KeepsToTheAngles) {

@@ -124,6 +124,10 @@ INSTANTIATE_TEST_SUITE_P(
         BoundsCase{"SharpTurn", {0, 0}, {100, 7}, {-60, -33}, {40, -5}, {0, -15, 40, 0}},
         BoundsCase{"BeyondBothEnds", {10, 10}, {-50, -90}, {95, 3}, {12, -8}, {-5, -36, 38, 10}},
         BoundsCase{"Wave", {-7, 3}, {-7, -50}, {20, 61}, {5, 5}, {-7, -11, 9, 21}},
+        BoundsCase{
+            "TurnAtTheFirstStep", {0, 0}, {-300, 0}, {4500, 40}, {9000, 40}, {-13, 0, 9000, 40}},
+        BoundsCase{
+            "TurnAtTheLastStep", {9000, 40}, {4500, 40}, {-300, 0}, {0, 0}, {-13, 0, 9000, 40}},
         // 32 times the coordinate wraps to -32.
         BoundsCase{"WrappedPoint", {kMax, 0}, {kMax, 0}, {kMax, 0}, {kMax, 0}, {-1, 0, kMax, 0}},
         BoundsCase{"WrappedFarPoints",
