@@ -5,9 +5,9 @@
 
 namespace mivo {
 
-/// What the programs show as their version and what a language resource must carry to be used. The
-/// version of the file format is another number.
-inline constexpr std::string_view kProgramVersion = "0.84.00";
+/// What the programs show as their version, and what a translation of their texts must carry to be
+/// taken. The version of the file format is another number.
+inline constexpr std::u16string_view kProgramVersion = u"0.84.00";
 
 }  // namespace mivo
 

@@ -6,6 +6,7 @@
 #include "convert_command.h"
 #include "list_command.h"
 #include "program_version.h"
+#include "text_encoding.h"
 
 namespace mivo {
 namespace {
@@ -31,7 +32,7 @@ ExitCode RunCli(const std::vector<std::string>& arguments, const CommandIo& io) 
       "Exit status: 0 fine; 1 findings, or a load that failed; 2 wrong usage, or a file that "
       "cannot\n"
       "be read or written.");
-  app.set_version_flag("--version", "mivo-cli " + std::string(kProgramVersion));
+  app.set_version_flag("--version", "mivo-cli " + Utf16ToUtf8(kProgramVersion));
   app.require_subcommand(1);
   app.allow_windows_style_options(false);
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "program_version.h"
+
 namespace mivo {
 namespace {
 
@@ -37,7 +39,7 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::SaveChanges, u"Save changes?"),
     Message(StringId::CannotUndo, u"You can't undo this command.\nContinue?"),
     Message(StringId::SaveFailed, u"Cannnot save the document. Try saving as."),
-    Message(StringId::Version, u"0.84.00"),
+    Message(StringId::Version, kProgramVersion),
     Message(StringId::LaterVersion,
             u"This file was created by the later version. \nSome data may have been lost."),
     Message(StringId::FixedBlockRange, u"Fixed Block Number must be 1~255."),
