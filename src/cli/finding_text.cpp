@@ -15,15 +15,18 @@ std::string PlaceText(std::string_view file, std::int64_t line) {
 
 std::string FindingText(const Finding& finding) {
   std::string text(MessageOf(finding.kind));
+  // The reader fills up a field that the end of the data cuts off.
+  const std::size_t end = finding.text.find(u'\xFFFF');
   if (!finding.text.empty()) {
     text += ": \"";
-    AppendMessage(text, finding.text);
+    AppendMessage(text, std::u16string_view(finding.text).substr(0, end));
     text += '"';
   }
   if (!finding.record.empty()) {
     text += " in ";
     AppendMessage(text, finding.record);
   }
+  if (end != std::u16string::npos) text += " (cut off by the end of the data)";
   return text;
 }
 

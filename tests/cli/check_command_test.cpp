@@ -75,10 +75,19 @@ TEST(Check, StrictTellsTheFirstLineThatSavingWouldChange) {
   EXPECT_EQ(outcome.output, "-:9: error: saving would change the file from here on\n");
 }
 
-TEST(Check, StrictTellsAlsoWhatSavingWouldAdd) {
-  const std::string library = LibraryOf(ComponentRecord("R"));
-  const Outcome outcome = Check(library.substr(0, library.size() - 1), true);
+TEST(Check, StrictTellsAlsoWhatSavingWouldLeaveOut) {
+  const Outcome outcome = Check(std::string(kEmptyLibrary) + "\n", true);
   EXPECT_EQ(outcome.code, ExitCode::Findings);
+  EXPECT_EQ(outcome.output, "-:5: error: saving would change the file from here on\n");
+}
+
+TEST(Check, ALastLineWithoutItsEndIsExplained) {
+  const Outcome outcome =
+      Check(std::string(kEmptyLibrary.substr(0, kEmptyLibrary.size() - 1)), true);
+  EXPECT_EQ(outcome.code, ExitCode::Findings);
+  EXPECT_EQ(outcome.output,
+            "-:4: error: closing tag does not belong here: \"-TARSL_LIB_V.1.0\" (cut off by the "
+            "end of the data)\n");
 }
 
 TEST(Check, StrictDoesNotTakeASchematic) {

@@ -66,7 +66,7 @@ TEST(Convert, AFailedLoadWritesNothing) {
 TEST(Convert, AFailedLoadCreatesNothing) {
   const TempFolder folder;
   CapturedIo captured;
-  captured.input = "no library";
+  captured.input = "no library\n";
   EXPECT_EQ(RunConvert({"-", (folder / "out.ZLB").string(), false}, captured.io),
             ExitCode::Findings);
   EXPECT_EQ(captured.errors,

@@ -22,6 +22,11 @@ TEST(FindingText, IsOneLineWhateverTheFieldHolds) {
             "unknown key is ignored: \"A\\n\\u001b[1m\\B\" in +P\\tN");
 }
 
+TEST(FindingText, TellsOfAFieldThatTheDataEndIn) {
+  EXPECT_EQ(FindingText({FindingKind::WrongClosingTag, 7, 1, u"+PIN", u"-PI\xFFFF\xFFFF"}),
+            "closing tag does not belong here: \"-PI\" in +PIN (cut off by the end of the data)");
+}
+
 TEST(PlaceText, IsTheBeginningThatEditorsUnderstand) {
   EXPECT_EQ(PlaceText("dir/my lib.ZLB", 12), "dir/my lib.ZLB:12: ");
   EXPECT_EQ(PlaceText("C:\\libs\\a.ZLB", 1), "C:\\libs\\a.ZLB:1: ");

@@ -38,7 +38,7 @@ TEST(RunCli, EveryCommandHasItsOwnHelp) {
     std::vector<const char*> parts;
   } kCases[] = {{"list", {"FILE", "--json"}},
                 {"convert", {"IN", "OUT", "--keep-partial"}},
-                {"check", {"FILE ...", "--strict"}}};
+                {"check", {"FILE...", "--strict"}}};
   for (const auto& [command, parts] : kCases) {
     CapturedIo captured;
     EXPECT_EQ(RunCli({command, "--help"}, captured.io), ExitCode::Fine);
