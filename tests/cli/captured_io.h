@@ -2,6 +2,8 @@
 #define MIVO_TESTS_CLI_CAPTURED_IO_H
 
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "byte_stream.h"
 #include "command_io.h"
@@ -19,10 +21,13 @@ struct CapturedIo {
   CommandIo io{[this] { return FileResult<std::string>(input); }, outputSink, errorSink};
 };
 
-/// Takes nothing.
-class FullSink final : public ByteSink {
+/// Refuses what comes first and takes the rest.
+class FailingOnceSink final : public ByteSink {
  public:
-  [[nodiscard]] bool Write(std::string_view) override { return false; }
+  [[nodiscard]] bool Write(std::string_view) override { return std::exchange(failed_, true); }
+
+ private:
+  bool failed_ = false;
 };
 
 }  // namespace mivo

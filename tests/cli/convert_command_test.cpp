@@ -8,6 +8,7 @@
 #include <string>
 
 #include "captured_io.h"
+#include "case_name.h"
 #include "libraries.h"
 #include "temp_folder.h"
 #include "unprivileged_user.h"
@@ -98,12 +99,17 @@ TEST(Convert, KeepingTheRestOfAGoodLoadChangesNothing) {
   EXPECT_EQ(captured.output, kGoodLibrary);
 }
 
-class ConvertToSchematic : public testing::TestWithParam<const char*> {};
+struct OutName {
+  const char* name;
+  const char* file;
+};
+
+class ConvertToSchematic : public testing::TestWithParam<OutName> {};
 
 TEST_P(ConvertToSchematic, IsRefusedBeforeAnythingIsRead) {
   const TempFolder folder;
   CapturedIo captured;
-  const std::string out = folder.Put(GetParam(), kSchematic).string();
+  const std::string out = folder.Put(GetParam().file, kSchematic).string();
   for (const bool keepPartial : {false, true}) {
     captured.errors.clear();
     EXPECT_EQ(RunConvert({"none.ZLB", out, keepPartial}, captured.io), ExitCode::Failure);
@@ -113,21 +119,30 @@ TEST_P(ConvertToSchematic, IsRefusedBeforeAnythingIsRead) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ConvertToSchematic,
-                         testing::Values("a.ZSC", "a.zsc", "a.Zsc", "a.ZLB.zSC", ".ZSC"));
+                         testing::Values(OutName{"UpperCase", "a.ZSC"},
+                                         OutName{"LowerCase", "a.zsc"},
+                                         OutName{"MixedCase", "a.zSc"},
+                                         OutName{"SecondExtension", "a.ZLB.ZSC"},
+                                         OutName{"NothingElse", ".ZSC"}),
+                         kCaseName);
 
-class ConvertToOther : public testing::TestWithParam<const char*> {};
+class ConvertToOther : public testing::TestWithParam<OutName> {};
 
 TEST_P(ConvertToOther, IsDone) {
   const TempFolder folder;
   CapturedIo captured;
   captured.input = kEmptyLibrary;
-  const auto out = folder / GetParam();
+  const auto out = folder / GetParam().file;
   EXPECT_EQ(RunConvert({"-", out.string(), false}, captured.io), ExitCode::Fine);
   EXPECT_EQ(BytesOf(out), kEmptyLibrary);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ConvertToOther,
-                         testing::Values("a.ZLB", "ZSC", "aZSC", "a.ZSC.ZLB", "a.ZSCX", "a"));
+INSTANTIATE_TEST_SUITE_P(
+    All, ConvertToOther,
+    testing::Values(OutName{"Library", "a.ZLB"}, OutName{"WithoutPoint", "aZSC"},
+                    OutName{"WholeName", "ZSC"}, OutName{"FirstExtension", "a.ZSC.ZLB"},
+                    OutName{"LongerExtension", "a.ZSCX"}, OutName{"ShortName", "a"}),
+    kCaseName);
 
 TEST(Convert, AnInputThatCannotBeReadIsAFailure) {
   const TempFolder folder;
@@ -161,10 +176,10 @@ TEST(Convert, AnOutputThatIsProtectedStays) {
   EXPECT_THAT(folder.Names(), ElementsAre("out.ZLB"));
 }
 
-TEST(Convert, AStandardOutputThatTakesNothingIsAFailure) {
+TEST(Convert, AStandardOutputThatFailsIsAFailure) {
   CapturedIo captured;
-  FullSink full;
-  const CommandIo io{[] { return FileResult<std::string>(kGoodLibrary); }, full,
+  FailingOnceSink sink;
+  const CommandIo io{[] { return FileResult<std::string>(kGoodLibrary); }, sink,
                      captured.errorSink};
   EXPECT_EQ(RunConvert({"-", "-", false}, io), ExitCode::Failure);
 }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "case_name.h"
+
 namespace mivo {
 namespace {
 
@@ -38,8 +40,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"LongerExpected", "a\nb\nc\n", {"a\nb\n"}, 3},
                     Case{"ExpectedWithoutLineEnd", "a\nb", {"a\nb\n"}, 2},
                     Case{"NothingWritten", "a\n", {}, 1}, Case{"NothingExpected", "", {"a"}, 1},
-                    Case{"SameAgainAfterADifference", "ab\nc\n", {"xb\n", "c\n"}, 1}),
-    [](const auto& param) { return std::string(param.param.name); });
+                    Case{"SameAgainAfterADifference", "ab\nc\n", {"x", "ab\nc\n"}, 1}),
+    kCaseName);
 
 }  // namespace
 }  // namespace mivo

@@ -104,13 +104,15 @@ TEST(List, AStandardInputThatCannotBeReadIsAFailure) {
   EXPECT_EQ(captured.errors, "mivo-cli: standard input: Some reason\n");
 }
 
-TEST(List, AnOutputThatTakesNothingIsAFailure) {
-  for (const bool json : {false, true}) {
-    CapturedIo captured;
-    FullSink full;
-    const CommandIo io{[] { return FileResult<std::string>(kGoodLibrary); }, full,
-                       captured.errorSink};
-    EXPECT_EQ(RunList({"-", json}, io), ExitCode::Failure);
+TEST(List, AnOutputThatFailsIsAFailure) {
+  for (const int count : {1, 5000}) {  // with the last piece, and with one before
+    for (const bool json : {false, true}) {
+      CapturedIo captured;
+      captured.input = LibraryOf(NumberedComponents(count));
+      FailingOnceSink sink;
+      const CommandIo io{captured.io.readInput, sink, captured.errorSink};
+      EXPECT_EQ(RunList({"-", json}, io), ExitCode::Failure) << count << ' ' << json;
+    }
   }
 }
 

@@ -3,10 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "captured_io.h"
+#include "case_name.h"
 #include "libraries.h"
 #include "temp_folder.h"
 
@@ -46,29 +48,36 @@ TEST(RunCli, EveryCommandHasItsOwnHelp) {
   }
 }
 
-class WrongUsage : public testing::TestWithParam<std::vector<std::string>> {};
+struct Usage {
+  const char* name;
+  std::vector<std::string> arguments;
+};
+
+class WrongUsage : public testing::TestWithParam<Usage> {};
 
 TEST_P(WrongUsage, IsAFailureWithAMessage) {
   CapturedIo captured;
-  EXPECT_EQ(RunCli(GetParam(), captured.io), ExitCode::Failure);
+  EXPECT_EQ(RunCli(GetParam().arguments, captured.io), ExitCode::Failure);
   EXPECT_EQ(captured.output, "");
   EXPECT_THAT(captured.errors, StartsWith("mivo-cli: usage: "));
   EXPECT_THAT(captured.errors, HasSubstr("Try 'mivo-cli --help'.\n"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, WrongUsage,
-    testing::Values(std::vector<std::string>{}, std::vector<std::string>{"draw"},
-                    std::vector<std::string>{"list"}, std::vector<std::string>{"list", "-", "-"},
-                    std::vector<std::string>{"list", "--xml", "-"},
-                    std::vector<std::string>{"list", "--strict", "-"},
-                    std::vector<std::string>{"--json"}, std::vector<std::string>{"convert"},
-                    std::vector<std::string>{"convert", "-"},
-                    std::vector<std::string>{"convert", "-", "-", "-"},
-                    std::vector<std::string>{"check"},
-                    std::vector<std::string>{"check", "--strict"},
-                    std::vector<std::string>{"check", "--json", "-"},
-                    std::vector<std::string>{"list", "-", "check", "-"}));
+INSTANTIATE_TEST_SUITE_P(All, WrongUsage,
+                         testing::Values(Usage{"Nothing", {}}, Usage{"UnknownCommand", {"draw"}},
+                                         Usage{"OptionAlone", {"--json"}},
+                                         Usage{"ListWithoutFile", {"list"}},
+                                         Usage{"ListOfTwoFiles", {"list", "-", "-"}},
+                                         Usage{"UnknownOption", {"list", "--xml", "-"}},
+                                         Usage{"OptionOfCheck", {"list", "--strict", "-"}},
+                                         Usage{"ConvertWithoutFiles", {"convert"}},
+                                         Usage{"ConvertWithoutOut", {"convert", "-"}},
+                                         Usage{"ConvertOfThree", {"convert", "-", "-", "-"}},
+                                         Usage{"CheckWithoutFile", {"check"}},
+                                         Usage{"CheckOfNothing", {"check", "--strict"}},
+                                         Usage{"OptionOfList", {"check", "--json", "-"}},
+                                         Usage{"TwoCommands", {"list", "-", "check", "-"}}),
+                         kCaseName);
 
 TEST(RunCli, OptionsStandAnywhereBehindTheCommand) {
   for (const auto& arguments : {std::vector<std::string>{"list", "--json", "-"},
@@ -94,25 +103,36 @@ TEST(RunCli, PassesTheOptionsOfCheck) {
   EXPECT_EQ(RunCli({"check", "--strict", "-"}, captured.io), ExitCode::Findings);
 }
 
-class FileName : public testing::TestWithParam<const char*> {};
+struct File {
+  const char* name;
+  const char* file;
+};
+
+class FileName : public testing::TestWithParam<File> {};
 
 // Each of these could be taken for something else than a name.
 TEST_P(FileName, IsTakenAsItIs) {
+  const std::string file = GetParam().file;
   const TempFolder folder;
-  folder.Put(GetParam(), LibraryOf("STRANGE:1\n"));
+  folder.Put(file, LibraryOf("STRANGE:1\n"));
   std::filesystem::current_path(folder.Path());
   CapturedIo captured;
-  EXPECT_EQ(RunCli({"check", "--", GetParam(), GetParam()}, captured.io), ExitCode::Findings);
+  EXPECT_EQ(RunCli({"check", "--", file, file}, captured.io), ExitCode::Findings);
   std::filesystem::current_path("/");
-  const std::string line =
-      std::string(GetParam()) + ":4: warning: unknown key is ignored: \"STRANGE:1\"\n";
+  const std::string line = file + ":4: warning: unknown key is ignored: \"STRANGE:1\"\n";
   EXPECT_EQ(captured.errors, "");
   EXPECT_THAT(captured.output, testing::AnyOf(line + line, "./" + line + "./" + line));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FileName,
-                         testing::Values("list", "check", "[a,b]", "[]", "--json", "-x", "a b",
-                                         "a=b", "{a}", "%%", "'a'", "\"a\""));
+                         testing::Values(File{"Command", "list"}, File{"SameCommand", "check"},
+                                         File{"LongOption", "--strict"}, File{"ShortOption", "-x"},
+                                         File{"List", "[a,b]"}, File{"EmptyList", "[]"},
+                                         File{"Blank", "a b"}, File{"Assignment", "a=b"},
+                                         File{"Braces", "{a}"}, File{"Separator", "%%"},
+                                         File{"SingleQuotes", "'a'"},
+                                         File{"DoubleQuotes", "\"a\""}),
+                         kCaseName);
 
 TEST(RunCli, ANameLikeACommandNeedsNoSeparator) {
   const TempFolder folder;
