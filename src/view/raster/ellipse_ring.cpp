@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <numbers>
+#include <optional>
 
 namespace mivo {
 namespace {
@@ -15,33 +16,53 @@ namespace {
 struct HalfPixels {
   std::int64_t u;
   std::int64_t v;
+  bool operator==(const HalfPixels&) const = default;
 };
 
-// The upper right quadrant from the right end to the top end.
+// Where the ellipse with half axis `a` along and `b` across meets the row at `v`, as the nearest
+// pixel; nothing where it runs flatter than along a diagonal.
+std::optional<std::int64_t> NearestWhereSteep(double a, double b, std::int64_t v,
+                                              std::int64_t parity) noexcept {
+  const double height = static_cast<double>(v) / b;
+  const double u = a * std::sqrt(1 - height * height);
+  if (b * b * u < a * a * static_cast<double>(v)) return std::nullopt;
+  return 2 * std::llround((u - static_cast<double>(parity)) / 2) + parity;
+}
+
+// The upper right quadrant from the right end to the top end: where the ellipse is steep, the pixel
+// nearest to it in each row, where it is flat, that in each column. The result does not depend on
+// which axis is which.
 std::vector<HalfPixels> Quadrant(std::int64_t a, std::int64_t b) {
-  const std::int64_t aa = a * a;
-  const std::int64_t bb = b * b;
-  const auto isInside = [=](std::int64_t u, std::int64_t v) {
-    return u * u * bb + v * v * aa < aa * bb;
-  };
-  std::vector<HalfPixels> path;
-  path.reserve(static_cast<std::size_t>((a + b) / 2 + 2));
-  HalfPixels at{a, b % 2};
-  path.push_back(at);
-  while (at.u > a % 2 || at.v < b) {
-    if (at.u == a % 2) {
-      at.v += 2;
-    } else if (at.v == b) {
-      at.u -= 2;
-    } else if (bb * at.u > aa * at.v) {  // steep: one row up, and the column that is nearer
-      if (!isInside(at.u - 1, at.v + 2)) at.u -= 2;
-      at.v += 2;
-    } else {  // flat: one column on, and the row that is nearer
-      if (isInside(at.u - 2, at.v + 1)) at.v += 2;
-      at.u -= 2;
-    }
-    path.push_back(at);
+  const HalfPixels least{a % 2, b % 2};
+  const auto axisU = static_cast<double>(a);
+  const auto axisV = static_cast<double>(b);
+  std::vector<HalfPixels> curve;
+  for (std::int64_t v = least.v; v <= b; v += 2) {
+    const auto u = NearestWhereSteep(axisU, axisV, v, least.u);
+    if (!u) break;
+    curve.push_back({*u, v});
   }
+  std::vector<HalfPixels> flat;
+  for (std::int64_t u = least.u; u <= a; u += 2) {
+    const auto v = NearestWhereSteep(axisV, axisU, u, least.v);
+    if (!v) break;
+    flat.push_back({u, *v});
+  }
+  if (!curve.empty() && !flat.empty()) {
+    const HalfPixels last = curve.back();
+    const HalfPixels next = flat.back();
+    // Row and column may both just miss the diagonal point; the pixel there belongs to neither.
+    if (last.u - next.u > 2 || next.v - last.v > 2) curve.push_back({next.u + 2, last.v + 2});
+    if (last == next) curve.pop_back();
+  }
+  curve.insert(curve.end(), flat.rbegin(), flat.rend());
+  if (curve.empty()) curve.push_back(least);
+
+  // The ends of a very flat ellipse are thinner than a pixel.
+  std::vector<HalfPixels> path;
+  for (std::int64_t u = a; u > curve.front().u; u -= 2) path.push_back({u, least.v});
+  path.insert(path.end(), curve.begin(), curve.end());
+  for (std::int64_t v = curve.back().v + 2; v <= b; v += 2) path.push_back({least.u, v});
   return path;
 }
 
@@ -78,15 +99,20 @@ std::vector<PixelPoint> EllipseRing(const PixelRect& box) {
   const std::vector<HalfPixels> quadrant = Quadrant(a, b);
   ring.reserve(4 * quadrant.size());
   const auto add = [&](HalfPixels p, int signU, int signV) {
-    const PixelPoint pixel{static_cast<std::int32_t>(box.left + (a + signU * p.u) / 2),
-                           static_cast<std::int32_t>(box.top + (b - signV * p.v) / 2)};
-    if (ring.empty() || pixel != ring.back()) ring.push_back(pixel);
+    ring.push_back({static_cast<std::int32_t>(box.left + (a + signU * p.u) / 2),
+                    static_cast<std::int32_t>(box.top + (b - signV * p.v) / 2)});
   };
+  // Pixels on an axis are their own mirror images.
   for (auto p = quadrant.begin(); p != quadrant.end(); ++p) add(*p, 1, 1);
-  for (auto p = quadrant.rbegin(); p != quadrant.rend(); ++p) add(*p, -1, 1);
-  for (auto p = quadrant.begin(); p != quadrant.end(); ++p) add(*p, -1, -1);
-  for (auto p = quadrant.rbegin(); p != quadrant.rend(); ++p) add(*p, 1, -1);
-  if (ring.size() > 1 && ring.back() == ring.front()) ring.pop_back();
+  for (auto p = quadrant.rbegin(); p != quadrant.rend(); ++p) {
+    if (p->u != 0) add(*p, -1, 1);
+  }
+  for (auto p = quadrant.begin(); p != quadrant.end(); ++p) {
+    if (p->v != 0) add(*p, -1, -1);
+  }
+  for (auto p = quadrant.rbegin(); p != quadrant.rend(); ++p) {
+    if (p->u != 0 && p->v != 0) add(*p, 1, -1);
+  }
   return ring;
 }
 
