@@ -55,6 +55,7 @@ function(mivo_test name)
   gtest_discover_tests(
     ${name}
     TEST_PREFIX ${name}.
+    NO_PRETTY_VALUES # the case's own name, not the bytes of its parameter
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 120
     PROPERTIES TIMEOUT 300 ENVIRONMENT RC_PARAMS=seed=1)
