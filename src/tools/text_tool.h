@@ -1,0 +1,20 @@
+#ifndef MIVO_TOOLS_TEXT_TOOL_H
+#define MIVO_TOOLS_TEXT_TOOL_H
+
+#include "tool.h"
+
+namespace mivo {
+
+/// Asks for a text at each click and puts it there.
+class TextTool final : public Tool {
+ public:
+  [[nodiscard]] ToolKind Kind() const noexcept override { return ToolKind::Text; }
+  [[nodiscard]] ToolHint Hint(const EditSession& session) const override {
+    return session.HasPattern() ? ToolHint::PlaceText : ToolHint::NoPattern;
+  }
+  void Press(EditSession& session, const Pointer& pointer) override;
+};
+
+}  // namespace mivo
+
+#endif
