@@ -1,0 +1,48 @@
+#ifndef MIVO_APP_FRAME_PROMPTS_H
+#define MIVO_APP_FRAME_PROMPTS_H
+
+#include <QString>
+
+#include "text_table.h"
+
+class QWidget;
+
+namespace mivo {
+
+enum class SaveAnswer { Save, Discard, Cancel };
+
+/// What the main frame asks the user, so that tests can answer. An empty path is a cancelled
+/// dialog.
+class FramePrompts {
+ public:
+  virtual ~FramePrompts() = default;
+
+  [[nodiscard]] virtual QString AskOpenPath() = 0;
+  /// `proposed` is a file name, with or without a folder.
+  [[nodiscard]] virtual QString AskSavePath(const QString& proposed) = 0;
+  [[nodiscard]] virtual SaveAnswer AskSaveChanges() = 0;
+  /// OK or Cancel.
+  [[nodiscard]] virtual bool Confirm(StringId question) = 0;
+  virtual void Warn(StringId message) = 0;
+};
+
+/// Asks with real dialogs over `frame`.
+class DialogPrompts final : public FramePrompts {
+ public:
+  /// Both must outlive the prompts.
+  DialogPrompts(QWidget& frame, const TextTable& texts) : frame_(frame), texts_(texts) {}
+
+  [[nodiscard]] QString AskOpenPath() override;
+  [[nodiscard]] QString AskSavePath(const QString& proposed) override;
+  [[nodiscard]] SaveAnswer AskSaveChanges() override;
+  [[nodiscard]] bool Confirm(StringId question) override;
+  void Warn(StringId message) override;
+
+ private:
+  QWidget& frame_;
+  const TextTable& texts_;
+};
+
+}  // namespace mivo
+
+#endif

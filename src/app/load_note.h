@@ -1,0 +1,27 @@
+#ifndef MIVO_APP_LOAD_NOTE_H
+#define MIVO_APP_LOAD_NOTE_H
+
+#include <optional>
+
+#include <QString>
+
+#include "finding.h"
+
+namespace mivo {
+
+/// Listens to a load and keeps the one finding that the user must hear of: what failed it, or else
+/// that the file is cut off.
+class LoadNote final : public FindingSink {
+ public:
+  void Report(const Finding& finding) override;
+
+  /// "Line 12: what happened"; empty when nothing did.
+  [[nodiscard]] QString Text() const;
+
+ private:
+  std::optional<Finding> finding_;
+};
+
+}  // namespace mivo
+
+#endif

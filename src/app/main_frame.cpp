@@ -1,0 +1,275 @@
+// The window: its parts, its settings, and which command does what.
+
+#include "main_frame.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+
+#include "command_actions.h"
+#include "command_icon.h"
+#include "comp_edit_view.h"
+#include "lb_comp_name.h"
+#include "name_pane.h"
+#include "schematic_data.h"
+
+namespace mivo {
+namespace {
+
+constexpr std::int32_t kShowNormal = 1;
+constexpr std::int32_t kShowMinimized = 2;
+constexpr std::int32_t kShowMaximized = 3;
+
+/// The file that a drag brings, if it is one local file.
+QString DraggedPath(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
+
+CMainFrame::CMainFrame(SettingsFile& settings, const TextTable& texts)
+    : settings_(settings),
+      texts_(texts),
+      prompts_(std::make_unique<DialogPrompts>(*this, texts)),
+      propertyPrompts_(*this),
+      actions_(new CommandActions(texts, this)),
+      view_(new CCompEditView(propertyPrompts_, this)) {
+  setWindowIcon(ProgramIcon());
+  setAcceptDrops(true);
+  CreateParts();
+  ReadSettings();
+  ShowTitle();
+  HandToView(nullptr);
+  UpdateActions();
+  UpdateStatus();
+}
+
+CMainFrame::~CMainFrame() {
+  // The view works on components that the library owns.
+  view_->Editor().SetComponent(nullptr);
+}
+
+SLBCompName& CMainFrame::Names() const noexcept {
+  return pane_->List();
+}
+
+QAction* CMainFrame::Action(Command command) const {
+  return actions_->Action(command);
+}
+
+void CMainFrame::CreateParts() {
+  setCentralWidget(view_);
+
+  actions_->FillMenuBar(*menuBar());
+  auto* const toolBar = addToolBar(QStringLiteral("Toolbar"));
+  toolBar->setObjectName(QStringLiteral("toolBar"));
+  toolBar->setMovable(false);
+  actions_->FillToolBar(*toolBar);
+
+  statusText_ = new QLabel(this);
+  statusText_->setObjectName(QStringLiteral("statusText"));
+  statusBar()->addWidget(statusText_, 1);
+  for (const char* const key : {"CAP", "NUM", "SCRL"}) {
+    auto* const indicator = new QLabel(QLatin1String(key), this);
+    indicator->setEnabled(false);
+    statusBar()->addPermanentWidget(indicator);
+  }
+
+  auto* const dock = new QDockWidget(this);
+  dock->setObjectName(QStringLiteral("namePane"));
+  dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+  dock->setTitleBarWidget(new QWidget(dock));
+  pane_ = new NamePane(*actions_, dock);
+  dock->setWidget(pane_);
+  addDockWidget(Qt::LeftDockWidgetArea, dock);
+
+  Names().setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&Names(), &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+    QMenu menu;
+    actions_->FillNameMenu(menu);
+    UpdateActions();
+    menu.exec(Names().viewport()->mapToGlobal(at));
+  });
+  connect(&Names(), &SLBCompName::SelectionChanged, this, &CMainFrame::ShowSelectedComponent);
+  connect(actions_, &CommandActions::Triggered, this, &CMainFrame::Execute);
+  connect(view_, &CCompEditView::CommandsChanged, this, [this] {
+    UpdateActions();
+    UpdateStatus();
+  });
+  connect(view_, &CCompEditView::ContextMenuRequested, this, [this](QPoint at) {
+    QMenu menu;
+    actions_->FillViewMenu(menu);
+    UpdateActions();
+    menu.exec(at);
+  });
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateActions);
+}
+
+void CMainFrame::ReadSettings() {
+  SCommonFont font;
+  font.height = settings_.GetInt(u"LabelFont", u"Height", font.height);
+  font.weight = settings_.GetInt(u"LabelFont", u"IsBold", font.weight);
+  font.italic = settings_.GetInt(u"LabelFont", u"IsItalic", 0) != 0;
+  font.face = settings_.GetString(u"LabelFont", u"FaceName", font.face);
+  view_->SetCommonFont(font);
+
+  // Any value but 0 means true, and so does a missing one.
+  const bool keepsFarObjects = settings_.GetInt(u"Setting", u"NoCheckPtnRectOnSave", 50) != 0;
+  farObjects_ = keepsFarObjects ? SCompEditDoc::FarObjects::Keep : SCompEditDoc::FarObjects::Drop;
+  settings_.SetInt(u"Setting", u"NoCheckPtnRectOnSave", keepsFarObjects ? 1 : 0);
+
+  const std::int32_t margin = settings_.GetInt(u"Setting", u"EditWindowMargin", 0);
+  if (margin > 0) view_->Editor().SetMargin(margin);
+  settings_.SetInt(u"Setting", u"EditWindowMargin", margin);
+}
+
+void CMainFrame::SaveWindowPlacement() {
+  if (!isVisible()) return;
+  const bool isNormal = !isMaximized() && !isMinimized() && !isFullScreen();
+  const QSize size = isNormal ? this->size() : normalGeometry().size();
+  const std::int32_t show =
+      isMinimized() ? kShowMinimized : (isMaximized() ? kShowMaximized : kShowNormal);
+  settings_.SetInt(u"WindowPosition", u"cmdShow", show);
+  if (!size.isValid()) return;
+  settings_.SetInt(u"WindowPosition", u"Width", size.width());
+  settings_.SetInt(u"WindowPosition", u"Height", size.height());
+}
+
+void CMainFrame::Execute(Command command) {
+  switch (command) {
+    case Command::New:
+      New();
+      break;
+    case Command::Open:
+      AskOpen();
+      break;
+    case Command::Save:
+      Save();
+      break;
+    case Command::SaveAs:
+      SaveAs();
+      break;
+    case Command::Exit:
+      close();
+      break;
+    case Command::MoveNameUp:
+      MoveSelectedName(-1);
+      break;
+    case Command::MoveNameDown:
+      MoveSelectedName(+1);
+      break;
+    case Command::CutComponent:
+      CutComponent();
+      break;
+    case Command::CopyComponent:
+      CopyComponent();
+      break;
+    case Command::PasteComponent:
+      PasteComponent();
+      break;
+    case Command::SortByName:
+      SortByName();
+      break;
+    default:
+      view_->Editor().Execute(static_cast<EditCommand>(command));
+      break;
+  }
+  UpdateActions();
+}
+
+void CMainFrame::UpdateActions() {
+  const CompEditor& editor = view_->Editor();
+  const int row = Names().SelectedRow();
+  const int count = Names().Names().rowCount();
+  for (const auto& [command, action] : actions_->All()) {
+    bool enabled = true;
+    switch (command) {
+      case Command::New:
+      case Command::Open:
+      case Command::Save:
+      case Command::Exit:
+        break;
+      case Command::SaveAs:
+        enabled = !temporaryFileMode_;
+        break;
+      case Command::MoveNameUp:
+        enabled = row > 0;
+        break;
+      case Command::MoveNameDown:
+        enabled = row >= 0 && row < count - 1;
+        break;
+      case Command::CutComponent:
+      case Command::CopyComponent:
+        enabled = row >= 0;
+        break;
+      case Command::PasteComponent:
+        enabled = CanPasteComponent(QGuiApplication::clipboard()->text().toStdU16String());
+        break;
+      case Command::SortByName:
+        enabled = count >= 2;
+        break;
+      default:
+        enabled = editor.IsEnabled(static_cast<EditCommand>(command));
+        if (action->isCheckable()) action->setChecked(editor.IsChecked(static_cast<EditCommand>(command)));
+        break;
+    }
+    action->setEnabled(enabled);
+  }
+}
+
+void CMainFrame::UpdateStatus() {
+  const QString hint = ToQString(HintText(view_->Editor().Hint()));
+  statusText_->setText(loadNote_.isEmpty() ? hint : loadNote_);
+}
+
+void CMainFrame::ShowTitle() {
+  QString title = QStringLiteral("Mivo");
+  if (doc_.Path() && !doc_.Path()->empty()) {
+    title += QStringLiteral(" - ") + QString::fromStdU16String(*doc_.Path());
+  }
+  setWindowTitle(title);
+}
+
+void CMainFrame::SetTemporaryFileMode() {
+  temporaryFileMode_ = true;
+  UpdateActions();
+}
+
+void CMainFrame::closeEvent(QCloseEvent* event) {
+  event->setAccepted(MayLeaveLibrary());
+}
+
+void CMainFrame::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  SaveWindowPlacement();
+}
+
+void CMainFrame::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) SaveWindowPlacement();
+}
+
+void CMainFrame::focusInEvent(QFocusEvent*) {
+  view_->setFocus();
+}
+
+void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedPath(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void CMainFrame::dropEvent(QDropEvent* event) {
+  const QString path = DraggedPath(*event->mimeData());
+  if (!path.isEmpty() && MayLeaveLibrary()) Open(path);
+}
+
+}  // namespace mivo

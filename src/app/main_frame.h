@@ -1,0 +1,107 @@
+#ifndef MIVO_APP_MAIN_FRAME_H
+#define MIVO_APP_MAIN_FRAME_H
+
+#include <QMainWindow>
+#include <memory>
+
+#include "comp_edit_doc.h"
+#include "frame_prompts.h"
+#include "mivo_doc.h"
+#include "settings_file.h"
+#include "stand_in_prompts.h"
+#include "text_table.h"
+
+class QLabel;
+
+namespace mivo {
+
+class CCompEditView;
+class CommandActions;
+class NamePane;
+class SLBCompName;
+
+/// The program's window. Owns the open library; the list on the left chooses the component that the
+/// view edits. The order of the list is the order in which the library is written.
+class CMainFrame final : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// The settings and texts must outlive the frame.
+  CMainFrame(SettingsFile& settings, const TextTable& texts);
+  ~CMainFrame() override;
+
+  /// Replaces the questions to the user, for tests.
+  void SetPrompts(std::unique_ptr<FramePrompts> prompts) { prompts_ = std::move(prompts); }
+
+  /// Replaces the open library by the one in the file, without asking about changes. A file that
+  /// cannot be read or understood leaves what was read of it without a path, so that it never
+  /// becomes the save target by itself; the status bar says why.
+  void Open(const QString& path);
+
+  /// The file belongs to another program that waits for it: it can be saved, but not elsewhere.
+  void SetTemporaryFileMode();
+
+  [[nodiscard]] bool IsModified() const noexcept { return modified_; }
+  [[nodiscard]] const SMivoDoc& Library() const noexcept { return doc_; }
+  [[nodiscard]] CCompEditView& View() const noexcept { return *view_; }
+  [[nodiscard]] SLBCompName& Names() const noexcept;
+  [[nodiscard]] QAction* Action(Command command) const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  // main_frame.cpp: the window
+  void CreateParts();
+  void ReadSettings();
+  void SaveWindowPlacement();
+  void Execute(Command command);
+  void UpdateActions();
+  void UpdateStatus();
+  void ShowTitle();
+  void MoveFocus(bool forward);
+
+  // main_frame_file.cpp: library and file
+  void New();
+  void AskOpen();
+  bool Save();
+  bool SaveAs();
+  bool WriteTo(const QString& path);
+  [[nodiscard]] bool MayLeaveLibrary();
+  void RefillNames();
+
+  // main_frame_component.cpp: components and their names
+  void CommitEdit();
+  void ShowSelectedComponent();
+  void HandToView(NameEntry* entry);
+  void InsertName(NameEntry* entry);
+  void MoveSelectedName(int down);
+  void CopyComponent();
+  void CutComponent();
+  void PasteComponent();
+  void SortByName();
+
+  SettingsFile& settings_;
+  const TextTable& texts_;
+  std::unique_ptr<FramePrompts> prompts_;
+  SMivoDoc doc_;
+  bool modified_ = false;
+  bool temporaryFileMode_ = false;
+  SCompEditDoc::FarObjects farObjects_ = SCompEditDoc::FarObjects::Keep;
+  QString loadNote_;
+
+  StandInPrompts propertyPrompts_;
+  CommandActions* actions_;
+  CCompEditView* view_;
+  NamePane* pane_ = nullptr;
+  QLabel* statusText_ = nullptr;
+};
+
+}  // namespace mivo
+
+#endif

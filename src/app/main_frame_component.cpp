@@ -1,0 +1,90 @@
+// Components and their names: the selection, the clipboard, the order of the list.
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <algorithm>
+
+#include "comp_edit_view.h"
+#include "lb_comp_name.h"
+#include "main_frame.h"
+#include "name_pane.h"
+#include "schematic_data.h"
+
+namespace mivo {
+
+void CMainFrame::CommitEdit() {
+  if (view_->Editor().Commit(farObjects_)) modified_ = true;
+}
+
+void CMainFrame::HandToView(NameEntry* entry) {
+  SComponent* const component = entry != nullptr ? entry->Component() : nullptr;
+  view_->Editor().SetComponent(component);
+  pane_->ShowNote(component != nullptr ? QString::fromStdU16String(component->note) : QString());
+}
+
+void CMainFrame::ShowSelectedComponent() {
+  CommitEdit();
+  HandToView(Names().SelectedEntry());
+  UpdateActions();
+}
+
+void CMainFrame::InsertName(NameEntry* entry) {
+  const int selected = Names().SelectedRow();
+  const int row = selected >= 0 ? selected : Names().Names().rowCount();
+  Names().Names().Insert(row, entry);
+  Names().SelectRow(row);
+}
+
+void CMainFrame::MoveSelectedName(int down) {
+  const int row = Names().SelectedRow();
+  const int target = row + down;
+  if (row < 0 || target < 0 || target >= Names().Names().rowCount()) return;
+  Names().Names().SwapWithNext(std::min(row, target));
+  modified_ = true;
+  UpdateActions();
+}
+
+void CMainFrame::CopyComponent() {
+  CommitEdit();
+  NameEntry* const entry = Names().SelectedEntry();
+  if (entry == nullptr) return;
+  const std::u16string text = WriteComponentText(*entry);
+  if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdU16String(text));
+}
+
+void CMainFrame::CutComponent() {
+  NameEntry* const entry = Names().SelectedEntry();
+  if (entry == nullptr) return;
+  CopyComponent();
+  const int row = Names().SelectedRow();
+  // The view must let go of a component before the library frees it.
+  HandToView(nullptr);
+  Names().Names().Remove(row);
+  doc_.Remove(*entry);
+  Names().SelectRow(std::min(row, Names().Names().rowCount() - 1));
+  HandToView(Names().SelectedEntry());
+  UpdateActions();
+}
+
+void CMainFrame::PasteComponent() {
+  const std::u16string text = QGuiApplication::clipboard()->text().toStdU16String();
+  if (!CanPasteComponent(text)) return;
+  NameEntry* const entry = PasteComponentText(doc_, text);
+  if (entry == nullptr) return;
+  CommitEdit();
+  InsertName(entry);
+  view_->Editor().MarkChanged();
+  modified_ = true;
+}
+
+void CMainFrame::SortByName() {
+  if (Names().Names().rowCount() < 2 || !prompts_->Confirm(StringId::CannotUndo)) return;
+  CommitEdit();
+  std::vector<NameEntry*> entries = Names().Names().Entries();
+  std::sort(entries.begin(), entries.end(),
+            [](const NameEntry* a, const NameEntry* b) { return a->Name() < b->Name(); });
+  Names().Names().SetEntries(std::move(entries));
+  Names().SelectRow(0);
+}
+
+}  // namespace mivo

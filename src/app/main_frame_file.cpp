@@ -1,0 +1,136 @@
+// The library and its file: new, open, save, and the question before changes are lost.
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "comp_edit_view.h"
+#include "file_writer.h"
+#include "lb_comp_name.h"
+#include "load_note.h"
+#include "main_frame.h"
+#include "name_pane.h"
+#include "path_text.h"
+#include "read_file.h"
+
+namespace mivo {
+namespace {
+
+bool HasExtension(const QString& path, const char* extension) {
+  return QFileInfo(path).suffix().compare(QLatin1String(extension), Qt::CaseInsensitive) == 0;
+}
+
+/// The file name to propose for a library: the same name with the extension of libraries.
+QString ProposedName(const QString& path) {
+  if (path.isEmpty()) return QStringLiteral("Untitled.ZLB");
+  if (HasExtension(path, "zlb")) return path;
+  const QFileInfo info(path);
+  return info.dir().filePath(info.completeBaseName() + QStringLiteral(".ZLB"));
+}
+
+QString PathOf(const SMivoDoc& doc) {
+  return doc.Path() ? QString::fromStdU16String(*doc.Path()) : QString();
+}
+
+}  // namespace
+
+void CMainFrame::New() {
+  if (!MayLeaveLibrary()) return;
+  HandToView(nullptr);
+  Names().Names().SetEntries({});
+  doc_.Clear();
+  modified_ = false;
+  loadNote_.clear();
+  ShowTitle();
+  UpdateActions();
+}
+
+void CMainFrame::AskOpen() {
+  if (!MayLeaveLibrary()) return;
+  const QString path = prompts_->AskOpenPath();
+  if (!path.isEmpty()) Open(path);
+}
+
+void CMainFrame::Open(const QString& path) {
+  HandToView(nullptr);
+  Names().Names().SetEntries({});
+  doc_.Clear();
+  modified_ = false;
+
+  const std::u16string pathText = path.toStdU16String();
+  const FileResult<std::string> content = ReadFile(PathFromText(pathText));
+  bool isLaterVersion = false;
+  if (content.Ok()) {
+    LoadNote note;
+    // What was read before a fault stays, without a path.
+    static_cast<void>(doc_.Load(content.Value(), pathText, &note));
+    loadNote_ = note.Text();
+    isLaterVersion = doc_.Version() > SMivoDoc::kVersion;
+  } else {
+    loadNote_ =
+        QFileInfo(path).fileName() + QStringLiteral(": ") + QString::fromStdString(content.Error());
+  }
+  if (isLaterVersion) prompts_->Warn(StringId::LaterVersion);
+  ShowTitle();
+  RefillNames();
+  UpdateStatus();
+}
+
+void CMainFrame::RefillNames() {
+  std::vector<NameEntry*> entries;
+  entries.reserve(doc_.Names().Entries().size());
+  for (const auto& entry : doc_.Names().Entries()) entries.push_back(entry.get());
+  Names().Names().SetEntries(std::move(entries));
+  Names().SelectRow(0);
+  ShowSelectedComponent();
+}
+
+bool CMainFrame::Save() {
+  const QString path = PathOf(doc_);
+  // A schematic holds more than its components, so it is never overwritten.
+  return path.isEmpty() || HasExtension(path, "zsc") ? SaveAs() : WriteTo(path);
+}
+
+bool CMainFrame::SaveAs() {
+  if (temporaryFileMode_) return false;
+  const QString path = prompts_->AskSavePath(ProposedName(PathOf(doc_)));
+  if (path.isEmpty()) return false;
+  if (HasExtension(path, "zsc")) {
+    prompts_->Warn(StringId::SaveFailed);
+    return false;
+  }
+  return WriteTo(path);
+}
+
+bool CMainFrame::WriteTo(const QString& path) {
+  CommitEdit();
+  const std::u16string pathText = path.toStdU16String();
+  FileWriter file(PathFromText(pathText));
+  if (!doc_.Write(file, Names().Names().Entries()) || !file.Commit()) {
+    loadNote_ = QString::fromStdString(file.ErrorText());
+    UpdateStatus();
+    prompts_->Warn(StringId::SaveFailed);
+    return false;
+  }
+  doc_.SetPath(pathText);
+  modified_ = false;
+  loadNote_.clear();
+  ShowTitle();
+  UpdateActions();
+  return true;
+}
+
+bool CMainFrame::MayLeaveLibrary() {
+  CommitEdit();
+  if (!modified_) return true;
+  switch (prompts_->AskSaveChanges()) {
+    case SaveAnswer::Save:
+      return Save();
+    case SaveAnswer::Discard:
+      return true;
+    case SaveAnswer::Cancel:
+      return false;
+  }
+  return false;
+}
+
+}  // namespace mivo

@@ -1,0 +1,42 @@
+#ifndef MIVO_APP_NAME_PANE_H
+#define MIVO_APP_NAME_PANE_H
+
+#include <QWidget>
+
+class QPlainTextEdit;
+class QToolButton;
+
+namespace mivo {
+
+class CommandActions;
+class SLBCompName;
+
+/// The left pane: two buttons that move the selected name up or down, the name list, and the note
+/// of the selected component.
+class NamePane final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit NamePane(const CommandActions& actions, QWidget* parent = nullptr);
+
+  [[nodiscard]] SLBCompName& List() const noexcept { return *list_; }
+  void ShowNote(const QString& note);
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  [[nodiscard]] QToolButton* CreateButton(QAction* action);
+
+  QToolButton* moveUp_;
+  QToolButton* moveDown_;
+  SLBCompName* list_;
+  QPlainTextEdit* note_;
+};
+
+}  // namespace mivo
+
+#endif

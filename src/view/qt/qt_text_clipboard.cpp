@@ -1,0 +1,21 @@
+#include "qt_text_clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace mivo {
+
+bool QtTextClipboard::SetText(std::u16string_view text) {
+  QGuiApplication::clipboard()->setText(
+      QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+  return true;
+}
+
+std::optional<std::u16string> QtTextClipboard::GetText() {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  if (data == nullptr || !data->hasText()) return std::nullopt;
+  return data->text().toStdU16String();
+}
+
+}  // namespace mivo
