@@ -1,0 +1,126 @@
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolBar>
+
+#include "frame_rig.h"
+#include "wait_until.h"
+
+namespace mivo {
+namespace {
+
+using MainFrameWindowTest = FrameTest;
+
+TEST_F(MainFrameWindowTest, FirstStartWritesTheSettingsBack) {
+  EXPECT_EQ(Settings().GetInt(u"Setting", u"NoCheckPtnRectOnSave", -1), 1);
+  EXPECT_EQ(Settings().GetInt(u"Setting", u"EditWindowMargin", -1), 0);
+}
+
+TEST_F(MainFrameWindowTest, MarginIsLimitedInTheViewAndWrittenBackAsItWas) {
+  Settings().SetInt(u"Setting", u"EditWindowMargin", 500);
+  Restart();
+  EXPECT_EQ(Frame().View().Editor().Coordinates().Margin(), 200);
+  EXPECT_EQ(Settings().GetInt(u"Setting", u"EditWindowMargin", -1), 500);
+}
+
+TEST_F(MainFrameWindowTest, FarObjectsAreDroppedOnlyWhenTheSettingSaysSo) {
+  const std::string library = LibraryFile(
+      "+PTN,N:p,X:41,Y:31\n+L,W:1,S:0,CV:0,X:0,Y:0,X:5,Y:5,-L\n"
+      "+L,W:1,S:0,CV:0,X:900,Y:900,X:905,Y:905,-L\n-PTN\n"
+      "+COMP,N:p\nX:4,Y:3,B:1\nTYPE:GEN,FB:0\nR:U\nP:p\n"
+      "+PIN,N:A,DF:FFFFFFFF,L:L1,T:,M:1,-PIN\nNOTE:,MFR:,MFRPN:,PKG:,-COMP\n");
+  for (const bool keeps : {true, false}) {
+    Put("p.ZLB", library);
+    Settings().SetInt(u"Setting", u"NoCheckPtnRectOnSave", keeps ? 1 : 0);
+    Restart();
+    Frame().Open(PathOf("p.ZLB"));
+    EditSelectedComponent();
+    Trigger(Command::Save);
+    EXPECT_EQ(Content("p.ZLB").find("X:900") != std::string::npos, keeps);
+  }
+}
+
+TEST_F(MainFrameWindowTest, SizeIsKeptForTheNextStart) {
+  Frame().show();
+  Frame().resize(777, 555);
+  EXPECT_TRUE(WaitUntil(
+      [&] { return Settings().GetInt(u"WindowPosition", u"Width", 0) == Frame().width(); }));
+  EXPECT_EQ(Settings().GetInt(u"WindowPosition", u"Width", 0), 777);
+  EXPECT_EQ(Settings().GetInt(u"WindowPosition", u"Height", 0), 555);
+  EXPECT_EQ(Settings().GetInt(u"WindowPosition", u"cmdShow", 0), 1);
+}
+
+TEST_F(MainFrameWindowTest, MaximisedWindowKeepsItsNormalSize) {
+  Frame().resize(777, 555);
+  Frame().show();
+  Frame().showMaximized();
+  EXPECT_TRUE(WaitUntil([&] { return Settings().GetInt(u"WindowPosition", u"cmdShow", 0) == 3; }));
+  EXPECT_EQ(Settings().GetInt(u"WindowPosition", u"Width", 0), 777);
+}
+
+TEST_F(MainFrameWindowTest, EveryCommandHasATipAndEveryToolButtonAnIcon) {
+  for (const TextId id : AllTextIds()) {
+    if (id.kind != TextKind::Command) continue;
+    const QAction* const action = Frame().Action(static_cast<Command>(id.number));
+    EXPECT_FALSE(action->text().isEmpty()) << id.number;
+    EXPECT_FALSE(action->toolTip().isEmpty()) << id.number;
+    EXPECT_FALSE(action->statusTip().isEmpty()) << id.number;
+  }
+  const auto* const toolBar = Frame().findChild<QToolBar*>(QStringLiteral("toolBar"));
+  for (const QAction* const action : toolBar->actions()) {
+    EXPECT_TRUE(action->isSeparator() || !action->icon().isNull()) << action->text().toStdString();
+  }
+}
+
+TEST_F(MainFrameWindowTest, IconsDifferFromEachOther) {
+  std::vector<QImage> images;
+  const auto* const toolBar = Frame().findChild<QToolBar*>(QStringLiteral("toolBar"));
+  for (const QAction* const action : toolBar->actions()) {
+    if (action->isSeparator()) continue;
+    const QImage image = action->icon().pixmap(24, 24).toImage();
+    for (const QImage& other : images) EXPECT_NE(image, other) << action->text().toStdString();
+    images.push_back(image);
+  }
+  EXPECT_GE(images.size(), 20u);
+}
+
+TEST_F(MainFrameWindowTest, MenusHoldTheirCommandsInOrder) {
+  QString text;
+  for (const QAction* const menu : Frame().menuBar()->actions()) {
+    text += menu->text() + QLatin1Char(':');
+    for (const QAction* const action : menu->menu()->actions()) {
+      const QString name = action->text().section(QLatin1Char('\t'), 0, 0);
+      text += action->isSeparator() ? QStringLiteral(" |") : QStringLiteral(" %1,").arg(name);
+    }
+    text += QLatin1Char('\n');
+  }
+  EXPECT_EQ(text.toStdString(),
+            "&File: &New, &Open..., &Save, Save &as..., | E&xit,\n"
+            "&Edit: &Undo, | Cu&t, &Copy, &Paste, &Delete, | &Mirror, &Rotate, | P&roperty..., |"
+            " Next pin name, Next pin number,\n"
+            "&Component: Cut component, Copy component, Paste component, | New component...,"
+            " Component property..., | Add alias..., Sort by name, | Library property...,\n"
+            "&View: Zoom &In, Zoom &Out, | &Pin property, Swap pin name and pin num,\n"
+            "&Tool: &Selector, &Pin, &Line, &Circle, Poly&gon, &Arc, &Text, | Edit &node mode, |"
+            " Create &BIT-PATTERN,\n"
+            "&Help: &About Mivo...,\n");
+}
+
+TEST_F(MainFrameWindowTest, NotesStayInsideThePaneAndTheLastRowInSight) {
+  std::string records;
+  for (int i = 0; i < 200; ++i) records += ComponentRecord("part" + std::to_string(i));
+  Put("many.ZLB", LibraryFile(records));
+  Frame().show();
+  Frame().Open(PathOf("many.ZLB"));
+  SLBCompName& list = Frame().Names();
+  auto* const note = Frame().findChild<QPlainTextEdit*>(QStringLiteral("noteBox"));
+  EXPECT_EQ(list.geometry().bottom() - note->geometry().top() + 1, 5) << "they overlap";
+  EXPECT_EQ(note->parentWidget()->height() - note->geometry().bottom() - 1, 5);
+  QTest::keyClick(&list, Qt::Key_End);
+  const QRect row = list.visualRect(list.currentIndex());
+  const int rowBottom = list.viewport()->mapTo(note->parentWidget(), row.bottomLeft()).y();
+  EXPECT_LT(rowBottom, note->geometry().top());
+}
+
+}  // namespace
+}  // namespace mivo
