@@ -5,8 +5,8 @@
 
 namespace mivo {
 
-/// Lets the event loop run until `condition` holds; false when it does not within a time that only a
-/// broken program needs.
+/// Lets the event loop run until `condition` holds; false when it does not within a time that only
+/// a broken program needs.
 template <typename Condition>
 [[nodiscard]] bool WaitUntil(Condition condition) {
   return QTest::qWaitFor(condition, 60000);
