@@ -220,7 +220,8 @@ void CMainFrame::UpdateActions() {
         break;
       default:
         enabled = editor.IsEnabled(static_cast<EditCommand>(command));
-        if (action->isCheckable()) action->setChecked(editor.IsChecked(static_cast<EditCommand>(command)));
+        if (action->isCheckable())
+          action->setChecked(editor.IsChecked(static_cast<EditCommand>(command)));
         break;
     }
     action->setEnabled(enabled);
