@@ -11,9 +11,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QSessionManager>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 
 #include "command_actions.h"
 #include "command_icon.h"
@@ -112,6 +116,18 @@ void CMainFrame::CreateParts() {
     UpdateActions();
     menu.exec(at);
   });
+  connect(view_, &CCompEditView::PlaceChanged, this, &CMainFrame::UpdateStatus);
+  connect(new QShortcut(QKeySequence(Qt::Key_F6), this), &QShortcut::activated, this,
+          [this] { MoveFocus(+1); });
+  connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F6), this), &QShortcut::activated, this,
+          [this] { MoveFocus(-1); });
+  // The end of the desktop session is a way out like any other.
+  connect(
+      qApp, &QGuiApplication::commitDataRequest, this,
+      [this](QSessionManager& session) {
+        if (session.allowsInteraction() && !MayLeaveLibrary()) session.cancel();
+      },
+      Qt::DirectConnection);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateActions);
 }
 
@@ -229,8 +245,30 @@ void CMainFrame::UpdateActions() {
 }
 
 void CMainFrame::UpdateStatus() {
-  const QString hint = ToQString(HintText(view_->Editor().Hint()));
-  statusText_->setText(loadNote_.isEmpty() ? hint : loadNote_);
+  const CompEditor& editor = view_->Editor();
+  QStringList parts{loadNote_.isEmpty() ? ToQString(HintText(editor.Hint())) : loadNote_};
+  if (editor.Component() != nullptr) {
+    if (const std::optional<SPoint> point = view_->MousePoint()) {
+      parts += QStringLiteral("%1, %2")
+                   .arg(point->x / double{kUnitsPerCell}, 0, 'f', 1)
+                   .arg(point->y / double{kUnitsPerCell}, 0, 'f', 1);
+    }
+    parts += QStringLiteral("\u00D7%1").arg(editor.Coordinates().Scale().factor);
+    parts +=
+        QStringLiteral("%1 / %2").arg(Names().SelectedRow() + 1).arg(Names().Names().rowCount());
+  }
+  statusText_->setText(parts.join(QStringLiteral("   |   ")));
+}
+
+void CMainFrame::MoveFocus(int direction) {
+  auto* const note = pane_->findChild<QWidget*>(QStringLiteral("noteBox"));
+  const std::array<QWidget*, 3> ring = {view_, &Names(), note};
+  const auto focused = std::find_if(ring.begin(), ring.end(),
+                                    [](const QWidget* widget) { return widget->hasFocus(); });
+  const auto count = static_cast<std::ptrdiff_t>(ring.size());
+  const std::ptrdiff_t next =
+      focused == ring.end() ? 0 : (focused - ring.begin() + direction + count) % count;
+  ring[static_cast<std::size_t>(next)]->setFocus(Qt::ShortcutFocusReason);
 }
 
 void CMainFrame::ShowTitle() {

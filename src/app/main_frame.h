@@ -64,7 +64,8 @@ class CMainFrame final : public QMainWindow {
   void UpdateActions();
   void UpdateStatus();
   void ShowTitle();
-  void MoveFocus(bool forward);
+  /// Along view, list and note box; `direction` is 1 or -1.
+  void MoveFocus(int direction);
 
   // main_frame_file.cpp: library and file
   void New();

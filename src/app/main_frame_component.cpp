@@ -26,6 +26,7 @@ void CMainFrame::ShowSelectedComponent() {
   CommitEdit();
   HandToView(Names().SelectedEntry());
   UpdateActions();
+  UpdateStatus();
 }
 
 void CMainFrame::InsertName(NameEntry* entry) {
@@ -64,6 +65,7 @@ void CMainFrame::CutComponent() {
   Names().SelectRow(std::min(row, Names().Names().rowCount() - 1));
   HandToView(Names().SelectedEntry());
   UpdateActions();
+  UpdateStatus();
 }
 
 void CMainFrame::PasteComponent() {

@@ -106,6 +106,37 @@ TEST_F(MainFrameWindowTest, MenusHoldTheirCommandsInOrder) {
             "&Help: &About Mivo...,\n");
 }
 
+TEST_F(MainFrameWindowTest, F6GoesRoundViewListAndNote) {
+  Frame().show();
+  Frame().activateWindow();
+  ASSERT_TRUE(WaitUntil([&] { return Frame().isActiveWindow(); }));
+  Frame().View().setFocus();
+  const auto focused = [&] { return Frame().focusWidget()->objectName().toStdString(); };
+  std::string forward;
+  for (int i = 0; i < 3; ++i) {
+    QTest::keyClick(&Frame(), Qt::Key_F6);
+    forward += focused() + ' ';
+  }
+  EXPECT_EQ(forward, "nameList noteBox componentView ");
+  QTest::keyClick(&Frame(), Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_EQ(focused(), "noteBox");
+}
+
+TEST_F(MainFrameWindowTest, StatusTellsPlaceZoomAndName) {
+  Put("parts.ZLB", LibraryFile(ComponentRecord("a") + ComponentRecord("b")));
+  Frame().show();
+  Frame().Open(PathOf("parts.ZLB"));
+  Frame().Names().SelectRow(1);
+  Trigger(Command::ZoomIn);
+  EXPECT_THAT(StatusText(), testing::HasSubstr("×2   |   2 / 2"));
+  CCompEditView& view = Frame().View();
+  EXPECT_TRUE(WaitUntil([&] {
+    const PixelPoint place = view.Editor().Coordinates().ToDevice({25, 30});
+    QTest::mouseMove(view.viewport(), QPoint(place.x, place.y));
+    return StatusText().find("2.5, 3.0") != std::string::npos;
+  })) << StatusText();
+}
+
 TEST_F(MainFrameWindowTest, NotesStayInsideThePaneAndTheLastRowInSight) {
   std::string records;
   for (int i = 0; i < 200; ++i) records += ComponentRecord("part" + std::to_string(i));

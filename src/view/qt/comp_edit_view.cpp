@@ -87,6 +87,11 @@ void CCompEditView::SetCommonFont(const SCommonFont& font) {
   Render();
 }
 
+std::optional<SPoint> CCompEditView::MousePoint() const {
+  if (!mouse_) return std::nullopt;
+  return editor_.Coordinates().ToComponent(*mouse_);
+}
+
 PixelPoint CCompEditView::DevicePoint(QPointF position) const {
   const double ratio = viewport()->devicePixelRatioF();
   return {static_cast<std::int32_t>(std::floor(position.x() * ratio)),
@@ -126,8 +131,9 @@ void CCompEditView::paintEvent(QPaintEvent*) {
 
 bool CCompEditView::viewportEvent(QEvent* event) {
   if (event->type() == QEvent::Leave) {
+    mouse_.reset();
     editor_.LeaveMouse();
-    emit MouseMoved();
+    emit PlaceChanged();
   }
   return QAbstractScrollArea::viewportEvent(event);
 }
@@ -139,8 +145,9 @@ void CCompEditView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CCompEditView::mouseMoveEvent(QMouseEvent* event) {
-  editor_.MoveMouse(DevicePoint(event->position()));
-  emit MouseMoved();
+  mouse_ = DevicePoint(event->position());
+  editor_.MoveMouse(*mouse_);
+  emit PlaceChanged();
 }
 
 void CCompEditView::mouseReleaseEvent(QMouseEvent* event) {
@@ -199,6 +206,7 @@ void CCompEditView::ScrollBarsChanged() {
   ShowBar(*horizontalScrollBar(), coordinates.Horizontal(), line);
   ShowBar(*verticalScrollBar(), coordinates.Vertical(), line);
   settingBars_ = false;
+  emit PlaceChanged();
 }
 
 void CCompEditView::SetCursor(CursorShape shape) {

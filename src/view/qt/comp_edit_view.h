@@ -26,6 +26,9 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   [[nodiscard]] const SCommonFont& CommonFont() const noexcept { return commonFont_; }
   void SetCommonFont(const SCommonFont& font);
 
+  /// The component point under the mouse; nothing when the mouse is elsewhere.
+  [[nodiscard]] std::optional<SPoint> MousePoint() const;
+
   /// The frame says whether it shows the pin grid.
   void SetPinGridShown(bool shown) { pinGridShown_ = shown; }
 
@@ -35,8 +38,8 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   /// Pins came, went or changed: pointers to them are void.
   void PinsEdited();
   void PinGridToggled();
-  /// The mouse is over another point of the component, or over none.
-  void MouseMoved();
+  /// The mouse is over another point of the component, or over none, or the zoom changed.
+  void PlaceChanged();
   void ContextMenuRequested(QPoint globalPosition);
 
  protected:
@@ -72,6 +75,7 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   QtSurfaceFactory surfaces_;
   QtTextClipboard clipboard_;
   CompEditor editor_;
+  std::optional<PixelPoint> mouse_;
   double ratio_ = 0;                  ///< device pixels per logical pixel that the editor knows of
   std::optional<RasterImage> back_;   ///< nothing when it cannot be had
   std::optional<RasterImage> front_;  ///< what is on the screen
