@@ -99,7 +99,8 @@ class PinBars : public testing::TestWithParam<BarCase> {};
 // The bar is the only thing of the name's colour in its rows or columns: those of the leading above
 // the letters.
 TEST_P(PinBars, LieExactlyOverTheirCharacters) {
-  const auto [zoom, vertical] = GetParam();
+  const int zoom = GetParam().zoom;
+  const bool vertical = GetParam().vertical;
   QtFonts fonts;
   RasterImage image = WhiteImage({60 * zoom, 60 * zoom});
   QtSurface surface(image, fonts);
