@@ -17,8 +17,8 @@ const QColor kAliasColor(255, 0, 0);
 /// the other names of the selected component marked.
 class NameDelegate final : public QStyledItemDelegate {
  public:
-  explicit NameDelegate(const SLBCompName& list)
-      : list_(list), font_(QStringLiteral("MS UI Gothic")) {
+  explicit NameDelegate(SLBCompName& list)
+      : QStyledItemDelegate(&list), list_(list), font_(QStringLiteral("MS UI Gothic")) {
     font_.setPixelSize(kFontHeight);
   }
 
