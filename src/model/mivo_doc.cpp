@@ -12,27 +12,39 @@ namespace {
 
 constexpr std::int32_t kVersionOfFilesWithoutOne = 70;
 
-/// The version in the field behind the first library tag, which decides how the file is decoded; so
-/// it is read before anything is decoded. Nothing when the content is no library or schematic.
-std::optional<std::int32_t> PeekVersion(std::string_view bytes, FindingSink* sink) {
+/// What the first fields of a file say.
+struct FileHead {
+  bool isSchematic;
+  std::int32_t version;
+};
+
+/// Looks at the fields up to the version, which decides how the file is decoded; so it is read
+/// before anything is decoded. Nothing when the content is no library or schematic.
+std::optional<FileHead> PeekHead(std::string_view bytes, FindingSink* sink) {
   MemoryByteSource source(bytes);
   SRecordReader reader;
-  reader.SetSink(sink);
   reader.AttachFile(source, ByteDecoding::SignExtended);
   std::u16string_view field;
   const bool hasField = reader.ReadField(field) == FieldStatus::Ok;
-  if (hasField && field == SMivoDoc::kSchematicTag) {
-    reader.SkipToField(SMivoDoc::kLibraryTag);
-  } else if (!hasField || field != SMivoDoc::kLibraryTag) {
+  const bool isSchematic = hasField && field == SMivoDoc::kSchematicTag;
+  if (!hasField || (!isSchematic && field != SMivoDoc::kLibraryTag)) {
+    reader.SetSink(sink);  // whatever else there is to find is read once more
     reader.Report(FindingKind::NotALibrary, field);
     return std::nullopt;
   }
+  if (isSchematic) reader.SkipToField(SMivoDoc::kLibraryTag);
   reader.ReadField(field);
   const std::size_t colon = field.find(u':');
   if (colon == std::u16string_view::npos || field.substr(0, colon) != u"VER") {
-    return kVersionOfFilesWithoutOne;
+    return FileHead{isSchematic, kVersionOfFilesWithoutOne};
   }
-  return ParseInt(field.substr(colon + 1));
+  return FileHead{isSchematic, ParseInt(field.substr(colon + 1))};
+}
+
+/// Whether a schematic is whole: what lies between its library blocks is not looked at.
+bool HasSchematicEnd(std::string_view bytes) {
+  const std::size_t end = bytes.find_last_not_of(" \t\r\n");
+  return bytes.substr(0, end + 1).ends_with("-TARSL_DATA_V.1.0");
 }
 
 }  // namespace
@@ -45,9 +57,9 @@ void SMivoDoc::Clear() {
 
 bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink) {
   if (path_) return false;
-  const std::optional<std::int32_t> version = PeekVersion(bytes, sink);
-  if (!version) return false;
-  version_ = *version;
+  const std::optional<FileHead> head = PeekHead(bytes, sink);
+  if (!head) return false;
+  version_ = head->version;
 
   SRecordReader reader;
   MemoryByteSource source(bytes);
@@ -62,6 +74,9 @@ bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSin
   const bool hasBlock = reader.SkipToField(kLibraryTag) == FieldStatus::Ok;
   reader.SetSink(sink);
   if (hasBlock && !ReadBody(reader, BodyExtent::Whole)) return false;
+  if (head->isSchematic && !HasSchematicEnd(bytes)) {
+    reader.Report(FindingKind::DataCutOff, kSchematicTag);
+  }
   path_ = path;
   return true;
 }
