@@ -87,7 +87,8 @@ class DrawingSurface {
 
   // The three shapes in a box follow its edge pixels: the first column and row, and the last ones
   // inside. A thin pen stays within the box, a wide one is centred on those pixels. The brush fills
-  // up to them. An empty box draws nothing.
+  // what is inside, those pixels included: it shows in the gaps of the pen. An empty box draws
+  // nothing.
 
   virtual void Rectangle(const PixelRect& box, const Pen& pen, const Brush& brush) = 0;
   virtual void Ellipse(const PixelRect& box, const Pen& pen, const Brush& brush) = 0;
@@ -96,7 +97,7 @@ class DrawingSurface {
   virtual void Arc(const PixelRect& box, PixelPoint from, PixelPoint to, const Pen& pen) = 0;
 
   /// Joins the points and the last one with the first. The brush fills what a line from outside
-  /// crosses an odd number of edges to reach.
+  /// crosses an odd number of edges to reach, and the edges.
   virtual void Polygon(std::span<const PixelPoint> points, const Pen& pen, const Brush& brush) = 0;
 
   /// Single pixels of row `y` at `columns`.

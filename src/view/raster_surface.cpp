@@ -95,7 +95,9 @@ void RasterSurface::Ellipse(const PixelRect& box, const Pen& pen, const Brush& b
   if (!IsNear(canvas_, box, pen)) return;
   if (brush.color) FillEllipse(canvas_, box, *brush.color);
   if (IsThin(pen) && HasRing(box)) {
-    Hairline(canvas_, pen.color, pen.style == PenStyle::Dotted).Pixels(EllipseRing(box));
+    const std::vector<PixelPoint> ring = EllipseRing(box);
+    if (brush.color) Hairline(canvas_, *brush.color, false).Pixels(ring);
+    Hairline(canvas_, pen.color, pen.style == PenStyle::Dotted).Pixels(ring);
     return;
   }
   const PixelPoint right{box.right,
@@ -117,7 +119,10 @@ void RasterSurface::Arc(const PixelRect& box, PixelPoint from, PixelPoint to, co
 
 void RasterSurface::Polygon(std::span<const PixelPoint> points, const Pen& pen,
                             const Brush& brush) {
-  if (brush.color) FillPolygon(canvas_, points, *brush.color);
+  if (brush.color) {
+    FillPolygon(canvas_, points, *brush.color);
+    if (IsThin(pen)) StrokePoints(canvas_, points, true, {*brush.color});
+  }
   // The way back over a single edge would fill the gaps between its dots.
   StrokePoints(canvas_, points, points.size() > 2, pen);
 }

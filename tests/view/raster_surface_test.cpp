@@ -107,6 +107,22 @@ TEST_F(RasterSurfaceTest, AnEllipseIsFilledUpToItsOutline) {
       ............)"));
 }
 
+TEST_F(RasterSurfaceTest, TheBrushShowsBetweenDots) {
+  const Pen dotted{kBlack, 1, PenStyle::Dotted};
+  surface_.Ellipse({0, 0, 6, 5}, dotted, {kRed});
+  surface_.Rectangle({7, 0, 12, 4}, dotted, {kRed});
+  surface_.Polygon(std::array<PixelPoint, 4>{{{7, 5}, {11, 5}, {11, 7}, {7, 7}}}, dotted, {kRed});
+  EXPECT_EQ(Art(), Picture(R"(
+      .rrr#..###rr
+      #rrrr#.#rrrr
+      #rrrr#.#rrr#
+      #rrrr#.rrr##
+      .rrr#.......
+      .......###rr
+      .......rrrrr
+      .......rr###)"));
+}
+
 TEST_F(RasterSurfaceTest, AWideEllipseIsCentredOnItsOutline) {
   surface_.Ellipse({2, 2, 9, 7}, {kBlack, 3}, {kRed});
   EXPECT_EQ(Art(), Picture(R"(
