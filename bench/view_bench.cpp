@@ -178,7 +178,7 @@ void MeasureDrawing() {
     });
     std::printf("%-5d %14.2f %8.2f %14.2f %8.2f\n", bench.editor.Coordinates().Scale().factor,
                 redraw, redraw / fill, drag, drag / copy);
-    bench.editor.Execute(EditCommand::ZoomIn);
+    bench.editor.Execute(Command::ZoomIn);
   }
 }
 

@@ -197,7 +197,7 @@ void CMainFrame::Execute(Command command) {
       SortByName();
       break;
     default:
-      view_->Editor().Execute(static_cast<EditCommand>(command));
+      view_->Editor().Execute(command);
       break;
   }
   UpdateActions();
@@ -235,9 +235,8 @@ void CMainFrame::UpdateActions() {
         enabled = count >= 2;
         break;
       default:
-        enabled = editor.IsEnabled(static_cast<EditCommand>(command));
-        if (action->isCheckable())
-          action->setChecked(editor.IsChecked(static_cast<EditCommand>(command)));
+        enabled = editor.IsEnabled(command);
+        if (action->isCheckable()) action->setChecked(editor.IsChecked(command));
         break;
     }
     action->setEnabled(enabled);
@@ -246,7 +245,8 @@ void CMainFrame::UpdateActions() {
 
 void CMainFrame::UpdateStatus() {
   const CompEditor& editor = view_->Editor();
-  QStringList parts{loadNote_.isEmpty() ? ToQString(HintText(editor.Hint())) : loadNote_};
+  const std::optional<StringId> hint = editor.Hint();
+  QStringList parts{loadNote_.isEmpty() && hint ? ToQString(texts_.Text(*hint)) : loadNote_};
   if (editor.Component() != nullptr) {
     if (const std::optional<SPoint> point = view_->MousePoint()) {
       parts += QStringLiteral("%1, %2")

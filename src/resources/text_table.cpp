@@ -43,6 +43,23 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::LaterVersion,
             u"This file was created by the later version. \nSome data may have been lost."),
     Message(StringId::FixedBlockRange, u"Fixed Block Number must be 1~255."),
+    Message(StringId::HintSelect, u"Select pins and objects"),
+    Message(StringId::HintDragNode, u"Drag a node"),
+    Message(StringId::HintPlacePin, u"Place pin"),
+    Message(StringId::HintPlaceLine, u"Place line"),
+    Message(StringId::HintLineEnd, u"Place line: end point"),
+    Message(StringId::HintPlaceEllipse, u"Place ellipse"),
+    Message(StringId::HintEllipseCorner, u"Place ellipse: opposite corner"),
+    Message(StringId::HintPlacePolygon, u"Place polygon"),
+    Message(StringId::HintPolygonSecondCorner, u"Place polygon: next corner"),
+    Message(StringId::HintPolygonNextCorner, u"Place polygon: next corner, double click to finish"),
+    Message(StringId::HintPolygonFull, u"Place polygon: double click to finish"),
+    Message(StringId::HintPlaceArc, u"Place arc"),
+    Message(StringId::HintArcRadius, u"Place arc: radius"),
+    Message(StringId::HintArcStart, u"Place arc: start direction"),
+    Message(StringId::HintArcEnd, u"Place arc: end direction"),
+    Message(StringId::HintPlaceText, u"Place text"),
+    Message(StringId::HintNoPattern, u"The component has no pattern to draw in"),
 });
 
 constexpr auto kCommands = std::to_array<Entry>({

@@ -38,6 +38,25 @@ enum class StringId : std::int32_t {
   Version = 143,
   LaterVersion = 144,
   FixedBlockRange = 145,
+
+  // What a tool expects next, for the status bar.
+  HintSelect = 200,
+  HintDragNode,
+  HintPlacePin,
+  HintPlaceLine,
+  HintLineEnd,
+  HintPlaceEllipse,
+  HintEllipseCorner,
+  HintPlacePolygon,
+  HintPolygonSecondCorner,
+  HintPolygonNextCorner,
+  HintPolygonFull,
+  HintPlaceArc,
+  HintArcRadius,
+  HintArcStart,
+  HintArcEnd,
+  HintPlaceText,
+  HintNoPattern,
 };
 
 enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };

@@ -14,16 +14,16 @@ namespace {
 
 }  // namespace
 
-ToolHint ArcTool::StepHint(std::size_t fixed) const {
+StringId ArcTool::StepHint(std::size_t fixed) const {
   switch (fixed) {
     case 0:
-      return ToolHint::PlaceArc;
+      return StringId::HintPlaceArc;
     case 1:
-      return ToolHint::ArcRadius;
+      return StringId::HintArcRadius;
     case 2:
-      return ToolHint::ArcStart;
+      return StringId::HintArcStart;
     default:
-      return ToolHint::ArcEnd;
+      return StringId::HintArcEnd;
   }
 }
 

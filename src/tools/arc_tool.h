@@ -12,7 +12,7 @@ class ArcTool final : public FigureTool {
   [[nodiscard]] ToolKind Kind() const noexcept override { return ToolKind::Arc; }
 
  private:
-  [[nodiscard]] ToolHint StepHint(std::size_t fixed) const override;
+  [[nodiscard]] StringId StepHint(std::size_t fixed) const override;
   [[nodiscard]] std::size_t MaxFixed() const override { return 3; }
   [[nodiscard]] std::unique_ptr<SPtnObj> Complete(std::span<const SPoint> points) const override;
   void DrawFigure(std::span<const SPoint> points, FeedbackPainter& painter) const override;

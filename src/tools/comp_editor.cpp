@@ -200,27 +200,27 @@ bool CompEditor::Key(ViewKey key, bool shift) {
       OpenMenuAtSelection();
       return true;
     case ViewKey::Delete:
-      return Execute(EditCommand::Delete);
+      return Execute(Command::Delete);
     case ViewKey::PageUp:
-      return Execute(EditCommand::ZoomIn);
+      return Execute(Command::ZoomIn);
     case ViewKey::PageDown:
-      return Execute(EditCommand::ZoomOut);
+      return Execute(Command::ZoomOut);
     case ViewKey::S:
-      return Execute(EditCommand::SelectorTool);
+      return Execute(Command::Selector);
     case ViewKey::P:
-      return Execute(EditCommand::PinTool);
+      return Execute(Command::PinTool);
     case ViewKey::L:
-      return Execute(EditCommand::LineTool);
+      return Execute(Command::LineTool);
     case ViewKey::C:
-      return Execute(EditCommand::EllipseTool);
+      return Execute(Command::CircleTool);
     case ViewKey::G:
-      return Execute(EditCommand::PolygonTool);
+      return Execute(Command::PolygonTool);
     case ViewKey::A:
-      return Execute(EditCommand::ArcTool);
+      return Execute(Command::ArcTool);
     case ViewKey::T:
-      return Execute(EditCommand::TextTool);
+      return Execute(Command::TextTool);
     case ViewKey::N:
-      return Execute(EditCommand::EditNodeMode);
+      return Execute(Command::EditNodeMode);
     default:
       return SelectorKey(key, shift);
   }
@@ -228,7 +228,7 @@ bool CompEditor::Key(ViewKey key, bool shift) {
 
 bool CompEditor::SelectorKey(ViewKey key, bool shift) {
   if (tool_->Kind() != ToolKind::Selector) return false;
-  if (key == ViewKey::Enter) return Execute(EditCommand::Property);
+  if (key == ViewKey::Enter) return Execute(Command::Property);
   EndGesture();
   const bool done = key == ViewKey::Tab       ? SelectNext(session_)
                     : key == ViewKey::BackTab ? SelectPrevious(session_)
@@ -298,18 +298,18 @@ CursorShape CompEditor::Cursor() const {
 
 CompEditor::State CompEditor::CurrentState() const {
   State state;
-  for (std::size_t i = 0; i < kAllEditCommands.size(); ++i) {
-    const EditCommand command = kAllEditCommands[i];
+  for (std::size_t i = 0; i < kViewCommands.size(); ++i) {
+    const Command command = kViewCommands[i];
     // The clipboard is other people's: its changes are not ours to notice, and asking is slow.
-    if (command != EditCommand::Paste) state.enabled[i] = IsEnabled(command);
+    if (command != Command::Paste) state.enabled[i] = IsEnabled(command);
     state.checked[i] = IsChecked(command);
   }
   state.hint = Hint();
   return state;
 }
 
-ToolHint CompEditor::Hint() const {
-  return session_.component != nullptr ? tool_->Hint(session_) : ToolHint::None;
+std::optional<StringId> CompEditor::Hint() const {
+  return session_.component != nullptr ? std::optional(tool_->Hint(session_)) : std::nullopt;
 }
 
 }  // namespace mivo

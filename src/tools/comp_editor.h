@@ -6,12 +6,12 @@
 #include <memory>
 #include <optional>
 
-#include "edit_command.h"
 #include "edit_session.h"
 #include "node_editing.h"
 #include "right_button.h"
 #include "selection_drag.h"
 #include "tool.h"
+#include "view_commands.h"
 #include "view_key.h"
 #include "wheel_steps.h"
 
@@ -71,12 +71,13 @@ class CompEditor {
 
   // --- Commands --------------------------------------------------------------------------------
 
-  /// False, with nothing done, when the command is not enabled.
-  bool Execute(EditCommand command);
+  /// False, with nothing done, when the command is not enabled or not one of kViewCommands.
+  bool Execute(Command command);
   /// For Paste this looks at the clipboard; ViewHost::StateChanged tells about all others.
-  [[nodiscard]] bool IsEnabled(EditCommand command) const;
-  [[nodiscard]] bool IsChecked(EditCommand command) const;
-  [[nodiscard]] ToolHint Hint() const;
+  [[nodiscard]] bool IsEnabled(Command command) const;
+  [[nodiscard]] bool IsChecked(Command command) const;
+  /// What the current tool expects next, or why it does nothing; nothing without a component.
+  [[nodiscard]] std::optional<StringId> Hint() const;
 
   /// For the pin grid: selects the pin at `location`; false when there is none.
   bool SelectPin(SPinLocation location);
@@ -96,9 +97,9 @@ class CompEditor {
 
  private:
   struct State {
-    std::bitset<kAllEditCommands.size()> enabled;
-    std::bitset<kAllEditCommands.size()> checked;
-    ToolHint hint = ToolHint::None;
+    std::bitset<kViewCommands.size()> enabled;
+    std::bitset<kViewCommands.size()> checked;
+    std::optional<StringId> hint;
     bool operator==(const State&) const = default;
   };
 
@@ -114,7 +115,7 @@ class CompEditor {
   bool SelectorKey(ViewKey key, bool shift);
   void ShowSelection();
 
-  void Perform(EditCommand command);
+  void Perform(Command command);
   void SetTool(ToolKind kind);
   void RestartTool(std::unique_ptr<Tool> tool);
   void Undo();

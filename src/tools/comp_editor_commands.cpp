@@ -12,21 +12,21 @@
 namespace mivo {
 namespace {
 
-[[nodiscard]] constexpr std::optional<ToolKind> ToolOf(EditCommand command) noexcept {
+[[nodiscard]] constexpr std::optional<ToolKind> ToolOf(Command command) noexcept {
   switch (command) {
-    case EditCommand::SelectorTool:
+    case Command::Selector:
       return ToolKind::Selector;
-    case EditCommand::PinTool:
+    case Command::PinTool:
       return ToolKind::Pin;
-    case EditCommand::LineTool:
+    case Command::LineTool:
       return ToolKind::Line;
-    case EditCommand::EllipseTool:
+    case Command::CircleTool:
       return ToolKind::Ellipse;
-    case EditCommand::PolygonTool:
+    case Command::PolygonTool:
       return ToolKind::Polygon;
-    case EditCommand::ArcTool:
+    case Command::ArcTool:
       return ToolKind::Arc;
-    case EditCommand::TextTool:
+    case Command::TextTool:
       return ToolKind::Text;
     default:
       return {};
@@ -35,121 +35,124 @@ namespace {
 
 }  // namespace
 
-bool CompEditor::IsEnabled(EditCommand command) const {
+bool CompEditor::IsEnabled(Command command) const {
   const SCompEditDoc& document = session_.document;
   switch (command) {
-    case EditCommand::Undo:
+    case Command::Undo:
       return document.CanUndo();
-    case EditCommand::Cut:
-    case EditCommand::Copy:
-    case EditCommand::Delete:
+    case Command::Cut:
+    case Command::Copy:
+    case Command::Delete:
       return !document.Selection().empty();
-    case EditCommand::Paste: {
+    case Command::Paste: {
       if (session_.component == nullptr) return false;
       const std::optional<std::u16string> text = session_.ports.clipboard.GetText();
       return text && CanPaste(*text);
     }
-    case EditCommand::Mirror:
-    case EditCommand::Rotate:
+    case Command::Mirror:
+    case Command::Rotate:
       return document.SelectionHasObject();
-    case EditCommand::Property:
+    case Command::Property:
       return document.SingleSelection() != nullptr;
-    case EditCommand::NextPinName:
+    case Command::NextPinName:
       return session_.SelectedPin() != nullptr;
-    case EditCommand::NextPinNumber:
+    case Command::NextPinNumber:
       return session_.SelectedPin() != nullptr && session_.SelectedPin()->NumberCount() == 1;
-    case EditCommand::ZoomIn:
-    case EditCommand::ZoomOut:
-    case EditCommand::PinProperty:
-    case EditCommand::SwapNameAndNumber:
+    case Command::ZoomIn:
+    case Command::ZoomOut:
+    case Command::PinProperty:
+    case Command::SwapPinNameAndNumber:
       return true;
-    case EditCommand::AddNode:
+    case Command::AddNode:
       return newNode_.has_value();
-    default:
+    case Command::EditNodeMode:
+    case Command::CreateBitPattern:
       return session_.component != nullptr;
+    default:
+      return ToolOf(command) && session_.component != nullptr;
   }
 }
 
-bool CompEditor::IsChecked(EditCommand command) const {
+bool CompEditor::IsChecked(Command command) const {
   switch (command) {
-    case EditCommand::EditNodeMode:
+    case Command::EditNodeMode:
       return session_.nodeEdit;
-    case EditCommand::SwapNameAndNumber:
+    case Command::SwapPinNameAndNumber:
       return swapped_;
-    case EditCommand::PinProperty:
+    case Command::PinProperty:
       return session_.ports.host.IsPinGridShown();
     default:
       return ToolOf(command) == tool_->Kind();
   }
 }
 
-bool CompEditor::Execute(EditCommand command) {
+bool CompEditor::Execute(Command command) {
   // Zooming lets a drag go on; everything else ends it, and may become possible by that.
-  if (command == EditCommand::ZoomIn || command == EditCommand::ZoomOut) {
-    Zoom(command == EditCommand::ZoomIn ? 1 : -1);
+  if (command == Command::ZoomIn || command == Command::ZoomOut) {
+    Zoom(command == Command::ZoomIn ? 1 : -1);
     return true;
   }
   EndGesture();
-  if (command == EditCommand::Paste) return Paste();
+  if (command == Command::Paste) return Paste();
   if (!IsEnabled(command)) return false;
   Perform(command);
   Settle();
   return true;
 }
 
-void CompEditor::Perform(EditCommand command) {
+void CompEditor::Perform(Command command) {
   SCompEditDoc& document = session_.document;
   switch (command) {
-    case EditCommand::Undo:
+    case Command::Undo:
       Undo();
       break;
-    case EditCommand::Cut:
+    case Command::Cut:
       // What did not reach the clipboard is not lost.
       if (document.CopyToClipboard(session_.ports.clipboard)) session_.DeleteSelection();
       break;
-    case EditCommand::Copy:
+    case Command::Copy:
       static_cast<void>(document.CopyToClipboard(session_.ports.clipboard));
       break;
-    case EditCommand::Delete:
+    case Command::Delete:
       session_.DeleteSelection();
       break;
-    case EditCommand::Mirror:
+    case Command::Mirror:
       document.MirrorSelection();
       session_.pending.repaint = true;
       break;
-    case EditCommand::Rotate:
+    case Command::Rotate:
       document.RotateSelection();
       session_.pending.repaint = true;
       break;
-    case EditCommand::Property:
+    case Command::Property:
       EditProperty();
       break;
-    case EditCommand::NextPinName:
+    case Command::NextPinName:
       NextPinName();
       break;
-    case EditCommand::NextPinNumber:
+    case Command::NextPinNumber:
       NextPinNumber();
       break;
-    case EditCommand::PinProperty:
+    case Command::PinProperty:
       session_.ports.host.TogglePinGrid();
       session_.pending.repaint = true;
       break;
-    case EditCommand::SwapNameAndNumber:
+    case Command::SwapPinNameAndNumber:
       swapped_ = !swapped_;
       session_.pending.render = true;
       break;
-    case EditCommand::EditNodeMode:
+    case Command::EditNodeMode:
       session_.nodeEdit = !session_.nodeEdit;
       session_.pending.repaint = true;
       break;
-    case EditCommand::AddNode:
+    case Command::AddNode:
       AddNode();
       break;
-    case EditCommand::CreateBitPattern:
+    case Command::CreateBitPattern:
       CreateBitPattern();
       break;
     default:
-      if (const std::optional<ToolKind> tool = ToolOf(command)) SetTool(*tool);
+      SetTool(*ToolOf(command));
       break;
   }
 }

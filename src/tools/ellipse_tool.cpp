@@ -5,8 +5,8 @@
 
 namespace mivo {
 
-ToolHint EllipseTool::StepHint(std::size_t fixed) const {
-  return fixed == 0 ? ToolHint::PlaceEllipse : ToolHint::EllipseCorner;
+StringId EllipseTool::StepHint(std::size_t fixed) const {
+  return fixed == 0 ? StringId::HintPlaceEllipse : StringId::HintEllipseCorner;
 }
 
 std::unique_ptr<SPtnObj> EllipseTool::Complete(std::span<const SPoint> points) const {

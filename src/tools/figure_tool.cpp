@@ -4,8 +4,8 @@
 
 namespace mivo {
 
-ToolHint FigureTool::Hint(const EditSession& session) const {
-  return session.HasPattern() ? StepHint(fixed_.size()) : ToolHint::NoPattern;
+StringId FigureTool::Hint(const EditSession& session) const {
+  return session.HasPattern() ? StepHint(fixed_.size()) : StringId::HintNoPattern;
 }
 
 void FigureTool::Press(EditSession& session, const Pointer& pointer) {

@@ -14,7 +14,7 @@ namespace mivo {
 /// mouse in between. What the points mean is the derived tool's business.
 class FigureTool : public Tool {
  public:
-  [[nodiscard]] ToolHint Hint(const EditSession& session) const final;
+  [[nodiscard]] StringId Hint(const EditSession& session) const final;
   void Press(EditSession& session, const Pointer& pointer) final;
   void Move(EditSession& session, const Pointer& pointer) final;
   bool StepBack(EditSession& session) final;
@@ -22,7 +22,7 @@ class FigureTool : public Tool {
 
  protected:
   /// What is expected when `fixed` points are fixed.
-  [[nodiscard]] virtual ToolHint StepHint(std::size_t fixed) const = 0;
+  [[nodiscard]] virtual StringId StepHint(std::size_t fixed) const = 0;
   /// Fixed points beyond which clicks are ignored.
   [[nodiscard]] virtual std::size_t MaxFixed() const = 0;
   /// The figure, when `points` are all that it takes; null when more must come.

@@ -5,8 +5,8 @@
 
 namespace mivo {
 
-ToolHint LineTool::StepHint(std::size_t fixed) const {
-  return fixed == 0 ? ToolHint::PlaceLine : ToolHint::LineEnd;
+StringId LineTool::StepHint(std::size_t fixed) const {
+  return fixed == 0 ? StringId::HintPlaceLine : StringId::HintLineEnd;
 }
 
 std::unique_ptr<SPtnObj> LineTool::Complete(std::span<const SPoint> points) const {

@@ -11,8 +11,8 @@ class PinTool final : public Tool {
   explicit PinTool(const EditSession& session);
 
   [[nodiscard]] ToolKind Kind() const noexcept override { return ToolKind::Pin; }
-  [[nodiscard]] ToolHint Hint(const EditSession& /*session*/) const override {
-    return ToolHint::PlacePin;
+  [[nodiscard]] StringId Hint(const EditSession& /*session*/) const override {
+    return StringId::HintPlacePin;
   }
   void Press(EditSession& session, const Pointer& pointer) override;
   void Move(EditSession& session, const Pointer& pointer) override;

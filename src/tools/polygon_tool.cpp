@@ -13,10 +13,10 @@ void PolygonTool::DoubleClick(EditSession& session) {
   Finish(session, SPtnObjPolygon({points.begin(), points.end()}));
 }
 
-ToolHint PolygonTool::StepHint(std::size_t fixed) const {
-  if (fixed == 0) return ToolHint::PlacePolygon;
-  if (fixed < SPtnObjPolygon::kMinVertices) return ToolHint::PolygonSecondCorner;
-  return fixed < kMaxClicks ? ToolHint::PolygonNextCorner : ToolHint::PolygonFull;
+StringId PolygonTool::StepHint(std::size_t fixed) const {
+  if (fixed == 0) return StringId::HintPlacePolygon;
+  if (fixed < SPtnObjPolygon::kMinVertices) return StringId::HintPolygonSecondCorner;
+  return fixed < kMaxClicks ? StringId::HintPolygonNextCorner : StringId::HintPolygonFull;
 }
 
 void PolygonTool::DrawFigure(std::span<const SPoint> points, FeedbackPainter& painter) const {

@@ -14,7 +14,7 @@ class PolygonTool final : public FigureTool {
   void DoubleClick(EditSession& session) override;
 
  private:
-  [[nodiscard]] ToolHint StepHint(std::size_t fixed) const override;
+  [[nodiscard]] StringId StepHint(std::size_t fixed) const override;
   [[nodiscard]] std::size_t MaxFixed() const override { return kMaxClicks; }
   [[nodiscard]] std::unique_ptr<SPtnObj> Complete(
       std::span<const SPoint> /*points*/) const override {

@@ -17,10 +17,10 @@ constexpr std::int64_t kBandThreshold = 3;
 
 }  // namespace
 
-ToolHint SelectorTool::Hint(const EditSession& session) const {
-  if (heldPin_) return ToolHint::PlacePin;
-  return session.nodeEdit && session.SelectedObject() != nullptr ? ToolHint::DragNode
-                                                                 : ToolHint::Select;
+StringId SelectorTool::Hint(const EditSession& session) const {
+  if (heldPin_) return StringId::HintPlacePin;
+  return session.nodeEdit && session.SelectedObject() != nullptr ? StringId::HintDragNode
+                                                                 : StringId::HintSelect;
 }
 
 void SelectorTool::Press(EditSession& session, const Pointer& pointer) {

@@ -14,7 +14,7 @@ class SelectorTool final : public Tool {
   explicit SelectorTool(std::optional<SCompPin> heldPin = {}) : heldPin_(std::move(heldPin)) {}
 
   [[nodiscard]] ToolKind Kind() const noexcept override { return ToolKind::Selector; }
-  [[nodiscard]] ToolHint Hint(const EditSession& session) const override;
+  [[nodiscard]] StringId Hint(const EditSession& session) const override;
   void Press(EditSession& session, const Pointer& pointer) override;
   void Move(EditSession& session, const Pointer& pointer) override;
   void Release(EditSession& session, const Pointer& pointer) override;

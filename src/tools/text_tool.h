@@ -9,8 +9,8 @@ namespace mivo {
 class TextTool final : public Tool {
  public:
   [[nodiscard]] ToolKind Kind() const noexcept override { return ToolKind::Text; }
-  [[nodiscard]] ToolHint Hint(const EditSession& session) const override {
-    return session.HasPattern() ? ToolHint::PlaceText : ToolHint::NoPattern;
+  [[nodiscard]] StringId Hint(const EditSession& session) const override {
+    return session.HasPattern() ? StringId::HintPlaceText : StringId::HintNoPattern;
   }
   void Press(EditSession& session, const Pointer& pointer) override;
 };

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "edit_session.h"
-#include "tool_hint.h"
+#include "text_table.h"
 
 namespace mivo {
 
@@ -36,7 +36,8 @@ class Tool {
   virtual ~Tool() = default;
 
   [[nodiscard]] virtual ToolKind Kind() const noexcept = 0;
-  [[nodiscard]] virtual ToolHint Hint(const EditSession& session) const = 0;
+  /// What is expected next, or why nothing can be done.
+  [[nodiscard]] virtual StringId Hint(const EditSession& session) const = 0;
 
   /// Nothing is selected any more when this comes.
   virtual void Press(EditSession& session, const Pointer& pointer) = 0;

@@ -180,9 +180,9 @@ TEST_F(PinGridEditingTest, HideCellChangesAtOnceAndBackAgain) {
   EXPECT_EQ(Pin(0).type, 0);
   EXPECT_TRUE(Editor().Document().SelectionChanged());
 
-  Editor().Execute(EditCommand::Undo);
+  Editor().Execute(Command::Undo);
   EXPECT_EQ(Pin(0).type, 16) << "each click is an operation";
-  Editor().Execute(EditCommand::Undo);
+  Editor().Execute(Command::Undo);
   EXPECT_EQ(Pin(0).type, 0);
   EXPECT_FALSE(Editor().Document().CanUndo());
 }

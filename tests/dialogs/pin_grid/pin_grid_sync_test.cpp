@@ -51,8 +51,8 @@ TEST_F(PinGridSyncTest, UndoTakesAnEditBack) {
   Grid().Click(0, kName);
   Grid().SetEditText(u"X");
   Grid().EndEdit();
-  EXPECT_TRUE(Editor().IsEnabled(EditCommand::Undo));
-  Editor().Execute(EditCommand::Undo);
+  EXPECT_TRUE(Editor().IsEnabled(Command::Undo));
+  Editor().Execute(Command::Undo);
   EXPECT_EQ(Listed(), "L1 L3 T2");
   EXPECT_EQ(Pin(0).Name(), u"A");
 }
@@ -78,8 +78,8 @@ TEST_F(PinGridSyncTest, LookingAtCellsIsNoChange) {
 
 TEST_F(PinGridSyncTest, PastedPinGetsARow) {
   ClickView({-5, 10});
-  Editor().Execute(EditCommand::Copy);
-  Editor().Execute(EditCommand::Paste);
+  Editor().Execute(Command::Copy);
+  Editor().Execute(Command::Paste);
   EXPECT_EQ(Listed(), "L1 L3 T2") << "not placed yet";
   ClickView({-5, 70});
   EXPECT_EQ(Listed(), "L1 L3 [L7] T2");
@@ -88,7 +88,7 @@ TEST_F(PinGridSyncTest, PastedPinGetsARow) {
 
 TEST_F(PinGridSyncTest, NextPinNameShowsInTheGrid) {
   Grid().Click(0, kLocation);
-  Editor().Execute(EditCommand::NextPinName);
+  Editor().Execute(Command::NextPinName);
   EXPECT_EQ(Pin(0).Name(), u"1");
   EXPECT_EQ(Listed(), "[L1] L3 T2");
 }
@@ -96,7 +96,7 @@ TEST_F(PinGridSyncTest, NextPinNameShowsInTheGrid) {
 TEST_F(PinGridSyncTest, ChangesFromElsewhereGiveAnEditUp) {
   Grid().Click(0, kName);
   Grid().SetEditText(u"X");
-  Editor().Execute(EditCommand::Delete);
+  Editor().Execute(Command::Delete);
   EXPECT_EQ(Grid().Edit(), EditKind::None);
   Grid().EndEdit();
   EXPECT_EQ(Listed(), "L3 T2");
@@ -140,7 +140,7 @@ TEST_F(PinGridSyncTest, EditsDoNotScrollAwayFromWhatTheUserLooksAt) {
   Grid().SetEditText(u"X");
   Grid().ScrollRows(ScrollRequest::Thumb, 10);
   EXPECT_EQ(Grid().RowScroll().First(), 10);
-  Editor().Execute(EditCommand::NextPinName);
+  Editor().Execute(Command::NextPinName);
   EXPECT_EQ(Grid().RowScroll().First(), 10);
 }
 

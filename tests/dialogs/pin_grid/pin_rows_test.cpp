@@ -47,7 +47,7 @@ TEST_F(PinRowsTest, SelectedPinStandsInItsPlaceOnce) {
 TEST_F(PinRowsTest, DeletedPinsAreNotListed) {
   Open(MakeComponent({{PinSide::Left, 1}, {PinSide::Left, 3}}));
   ASSERT_TRUE(Editor().SelectPin({PinSide::Left, 1}));
-  Editor().Execute(EditCommand::Delete);
+  Editor().Execute(Command::Delete);
   EXPECT_EQ(Listed(), "L3");
 }
 
