@@ -66,6 +66,14 @@ TEST(LibraryPattern, IsTheFirstOfItsName) {
   EXPECT_THAT(library.findings.Kinds(), ElementsAre(FindingKind::PatternUnused));
 }
 
+TEST(LibraryPattern, IsReportedInTheOrderOfNamesWhereNoneUsesIt) {
+  const LoadedLibrary library(LibraryFile(PatternRecord(u"b", 1) + PatternRecord(u"c", 1) +
+                                          PatternRecord(u"a", 1) + ComponentRecord(u"A", u"P:c")));
+  std::vector<std::u16string> unused;
+  for (const Finding& finding : library.findings.all) unused.push_back(finding.text);
+  EXPECT_THAT(unused, ElementsAre(u"a", u"b"));
+}
+
 TEST(LibraryPattern, BelongsToItsBlock) {
   const LoadedLibrary library(LibraryFile(PatternRecord(u"a", 1) + ComponentRecord(u"A", u"P:a")) +
                               LibraryFile(ComponentRecord(u"B", u"P:a")) +

@@ -72,6 +72,8 @@ INSTANTIATE_TEST_SUITE_P(
         UniqueCase{"SignIsNoDigit", {u"R(-1)"}, u"R(-1)", u"R(-1)(1)"},
         UniqueCase{"FullWidthDigitIsNoDigit", {u"R(\uFF11)"}, u"R(\uFF11)", u"R(\uFF11)(1)"},
         UniqueCase{"NothingOpens", {u"1)"}, u"1)", u"1)(1)"},
+        UniqueCase{"ClosingParenthesisAlone", {u")"}, u")", u")(1)"},
+        UniqueCase{"DigitsAlone", {u"12)"}, u"12)", u"12)(1)"},
         UniqueCase{"NumberNotAtTheEnd", {u"R(1)a"}, u"R(1)a", u"R(1)a(1)"},
         UniqueCase{"TwoNumbers", {u"R(1)(2)"}, u"R(1)(2)", u"R(1)(3)"},
         UniqueCase{"NestedParentheses", {u"R((2)"}, u"R((2)", u"R((3)"},
