@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "dialog_texts.h"
 #include "program_version.h"
 
 namespace mivo {
@@ -43,6 +44,7 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::LaterVersion,
             u"This file was created by the later version. \nSome data may have been lost."),
     Message(StringId::FixedBlockRange, u"Fixed Block Number must be 1~255."),
+    Message(StringId::TextTooLong, u"Enter at most %d characters."),
     Message(StringId::HintSelect, u"Select pins and objects"),
     Message(StringId::HintDragNode, u"Drag a node"),
     Message(StringId::HintPlacePin, u"Place pin"),
@@ -157,6 +159,85 @@ constexpr auto kMenus = std::to_array<Entry>({
     MenuTitle(MenuId::Help, u"&Help"),
 });
 
+constexpr auto kDialogs = [] {
+  using namespace dialog_text;
+  return std::to_array<Entry>({
+      {kOk, u"OK"},
+      {kCancel, u"Cancel"},
+
+      {about::kTitle, u"About Mivo"},
+      {about::kVersion, u"Mivo Version "},
+
+      {pin_property::kTitle, u"Pin - property"},
+      {pin_property::kNumberGroup, u"Nu&mber"},
+      {pin_property::kStyleGroup, u"Style"},
+      {pin_property::kName, u"&Name"},
+      {pin_property::kBlock, u"&Block"},
+      {pin_property::kHideNumber, u"&Hide number"},
+      {pin_property::kPlain, u"Plain"},
+      {pin_property::kClock, u"Clock"},
+      {pin_property::kNegation, u"Inverted"},
+      {pin_property::kNegationClock, u"Inverted clock"},
+      {pin_property::kShapeS, u"Number nearer the body"},
+      {pin_property::kShapeZ, u"No line, number nearer the body"},
+      {pin_property::kShowHide, u"Show/Hide"},
+
+      {comp_property::kTitle, u"Property - component"},
+      {comp_property::kSizeGroup, u"Size"},
+      {comp_property::kPatternGroup, u"Pattern"},
+      {comp_property::kBlockGroup, u"Block"},
+      {comp_property::kName, u"&Name"},
+      {comp_property::kPrefix, u"Numbe&r"},
+      {comp_property::kWidth, u"&X"},
+      {comp_property::kBlocks, u"&Blocks"},
+      {comp_property::kHeight, u"&Y"},
+      {comp_property::kUsePattern, u"Use &Pattern"},
+      {comp_property::kNoBitPattern, u"No &Bit-pattern"},
+      {comp_property::kManufacturer, u"Manufacturer"},
+      {comp_property::kPartNumber, u"MfrPartNumber"},
+      {comp_property::kPackage, u"Package"},
+      {comp_property::kNote, u"No&te"},
+      {comp_property::kFixedBlock, u"&Fixed block Num"},
+      {comp_property::kSharedBlock, u"&Shared block"},
+
+      {ptn_property::kTitle, u"Property - pattern"},
+      {ptn_property::kDot, u"&Dot"},
+      {ptn_property::kFill, u"&Fill"},
+      {ptn_property::kWidth, u"&Width"},
+
+      {prop_lib::kTitle, u"Property - library"},
+      {prop_lib::kText, u"Library text"},
+
+      {add_alias::kTitle, u"Add alias"},
+      {add_alias::kName, u"Alias for"},
+      {add_alias::kAlias, u"&Alias"},
+
+      {ptn_text::kTitle, u"Property -text"},
+      {ptn_text::kHorizontalGroup, u"Horizontal anchor"},
+      {ptn_text::kVerticalGroup, u"Vertical anchor"},
+      {ptn_text::kFontGroup, u"Font"},
+      {ptn_text::kText, u"&Text"},
+      {ptn_text::kLeft, u"Left"},
+      {ptn_text::kHorizontalCenter, u"Center"},
+      {ptn_text::kRight, u"Right"},
+      {ptn_text::kUpper, u"Upper"},
+      {ptn_text::kVerticalCenter, u"Center"},
+      {ptn_text::kLower, u"Lower"},
+      {ptn_text::kUseCommonFont, u"Use common font"},
+      {ptn_text::kFont, u"&Font..."},
+
+      {pin_name_show_hide::kTitle, u"Show/Hide name individually"},
+      {pin_name_show_hide::kParts, u"Parts of the name"},
+      {pin_name_show_hide::kShowAll, u"Show All"},
+      {pin_name_show_hide::kHideAll, u"Hide All"},
+
+      {line_property::kTitle, u"Property - Line"},
+      {line_property::kDot, u"&Dot"},
+      {line_property::kCurve, u"&Curve line"},
+      {line_property::kWidth, u"&Width"},
+  });
+}();
+
 template <std::size_t... kSizes>
 constexpr auto Joined(const std::array<Entry, kSizes>&... tables) {
   std::array<Entry, (kSizes + ...)> all{};
@@ -165,7 +246,7 @@ constexpr auto Joined(const std::array<Entry, kSizes>&... tables) {
   return all;
 }
 
-constexpr auto kTexts = Joined(kMessages, kCommands, kHints, kMenus);
+constexpr auto kTexts = Joined(kMessages, kCommands, kHints, kMenus, kDialogs);
 
 constexpr bool kAscending = std::is_sorted(
     kTexts.begin(), kTexts.end(), [](const Entry& a, const Entry& b) { return !(a.id > b.id); });

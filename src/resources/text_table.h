@@ -17,12 +17,14 @@ enum class TextKind : std::int32_t {
   Command = 1,  ///< menu text with mnemonic and, behind a tab, the keys; `number` is a Command
   Hint = 2,     ///< tool tip and status text of a command; `number` is a Command
   Menu = 3,     ///< title of a menu; `number` is a MenuId
+  Dialog = 4,   ///< text of a dialog's control; `number` is the dialog's
 };
 
 /// Names one text of the program.
 struct TextId {
   TextKind kind;
   std::int32_t number;
+  std::int32_t control = 0;  ///< number of the control in its dialog; 0 elsewhere and for titles
   auto operator<=>(const TextId&) const = default;
 };
 
@@ -38,6 +40,7 @@ enum class StringId : std::int32_t {
   Version = 143,
   LaterVersion = 144,
   FixedBlockRange = 145,
+  TextTooLong = 150,  ///< "%d" stands for the number of characters that are allowed
 
   // What a tool expects next, for the status bar.
   HintSelect = 200,
