@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "command_icon.h"
+#include "qt_text.h"
 
 namespace mivo {
 namespace {
@@ -102,10 +103,6 @@ bool IsSwitch(Command command) {
 }
 
 }  // namespace
-
-QString ToQString(std::u16string_view text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 CommandActions::CommandActions(const TextTable& texts, QObject* parent)
     : QObject(parent), texts_(texts) {

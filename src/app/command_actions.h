@@ -44,9 +44,6 @@ class CommandActions final : public QObject {
   std::map<Command, QAction*> actions_;
 };
 
-/// Text as the toolkit holds it; the same code units.
-[[nodiscard]] QString ToQString(std::u16string_view text);
-
 }  // namespace mivo
 
 #endif

@@ -3,7 +3,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include "command_actions.h"
+#include "qt_text.h"
 
 namespace mivo {
 namespace {

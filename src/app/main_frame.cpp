@@ -24,6 +24,7 @@
 #include "comp_edit_view.h"
 #include "lb_comp_name.h"
 #include "name_pane.h"
+#include "qt_text.h"
 #include "schematic_data.h"
 
 namespace mivo {

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "command_actions.h"
 #include "main_frame.h"
 #include "path_text.h"
+#include "qt_text.h"
 #include "settings_location.h"
 
 namespace mivo {

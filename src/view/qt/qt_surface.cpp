@@ -5,12 +5,10 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "qt_text.h"
+
 namespace mivo {
 namespace {
-
-QString ToQString(std::u16string_view text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 struct WrittenText {
   QString string;

@@ -4,11 +4,12 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+#include "qt_text.h"
+
 namespace mivo {
 
 bool QtTextClipboard::SetText(std::u16string_view text) {
-  QGuiApplication::clipboard()->setText(
-      QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+  QGuiApplication::clipboard()->setText(ToQString(text));
   return true;
 }
 
