@@ -85,7 +85,6 @@ namespace ptn_text {
 inline constexpr TextId kTitle = Title(148);
 inline constexpr TextId kHorizontalGroup = Control(148, 3);
 inline constexpr TextId kVerticalGroup = Control(148, 4);
-inline constexpr TextId kFontGroup = Control(148, 5);
 inline constexpr TextId kText = Control(148, 1030);
 inline constexpr TextId kLeft = Control(148, 1031);
 inline constexpr TextId kHorizontalCenter = Control(148, 1032);

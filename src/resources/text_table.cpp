@@ -215,7 +215,6 @@ constexpr auto kDialogs = [] {
       {ptn_text::kTitle, u"Property -text"},
       {ptn_text::kHorizontalGroup, u"Horizontal anchor"},
       {ptn_text::kVerticalGroup, u"Vertical anchor"},
-      {ptn_text::kFontGroup, u"Font"},
       {ptn_text::kText, u"&Text"},
       {ptn_text::kLeft, u"Left"},
       {ptn_text::kHorizontalCenter, u"Center"},

@@ -11,9 +11,9 @@
 namespace mivo {
 
 struct PinValues {
-  std::u16string name;  ///< as people type it, see SCompPin
+  std::u16string name = {};  ///< as people type it, see SCompPin
   std::uint32_t nameMask = 0xFFFFFFFF;
-  std::vector<std::u16string> numbers;  ///< one per block; empty also for an absent number
+  std::vector<std::u16string> numbers = {};  ///< one per block; empty also for an absent number
   bool hideNumber = false;
   std::int32_t shape = 0;  ///< see SCompPin
   bool operator==(const PinValues&) const = default;
@@ -36,9 +36,9 @@ struct ShapeValues {
 };
 
 struct TextValues {
-  std::u16string text;
+  std::u16string text = {};
   std::int32_t align = 0;     ///< see SPtnObjText
-  std::u16string face;        ///< empty for the common label font
+  std::u16string face = {};   ///< empty for the common label font
   std::int32_t height = 10;   ///< component units; the sign has no meaning
   std::int32_t weight = 400;  ///< 400 normal, 700 and more bold
   bool italic = false;

@@ -1,0 +1,65 @@
+#include "note_edit.h"
+
+#include <QDialog>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextDocument>
+
+#include "entered_text.h"
+#include "qt_text.h"
+
+namespace mivo {
+
+NoteEdit::NoteEdit(int visibleCharacters, int visibleLines, QWidget* parent)
+    : QPlainTextEdit(parent), visibleCharacters_(visibleCharacters, visibleLines) {
+  setTabChangesFocus(true);
+}
+
+void NoteEdit::SetContent(std::u16string_view content) {
+  content_ = content;
+  PrepareFor(static_cast<qsizetype>(content.size()));
+  setPlainText(ToQString(content));
+  shown_ = document()->toRawText();
+}
+
+std::u16string NoteEdit::Content() const {
+  return IsEdited() ? WithStoredLineBreaks(ToText(document()->toRawText())) : content_;
+}
+
+bool NoteEdit::IsEdited() const {
+  return document()->toRawText() != shown_;
+}
+
+QSize NoteEdit::minimumSizeHint() const {
+  const QFontMetrics metrics = fontMetrics();
+  const int around = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+  return {visibleCharacters_.width() * metrics.averageCharWidth() +
+              verticalScrollBar()->sizeHint().width() + around,
+          visibleCharacters_.height() * metrics.lineSpacing() + around};
+}
+
+void NoteEdit::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* const dialog = qobject_cast<QDialog*>(window());
+  if (isEnter && (event->modifiers() & Qt::ControlModifier) != 0 && dialog != nullptr) {
+    dialog->accept();
+    return;
+  }
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+void NoteEdit::insertFromMimeData(const QMimeData* source) {
+  PrepareFor(document()->characterCount() + source->text().size());
+  QPlainTextEdit::insertFromMimeData(source);
+}
+
+/// Wrapping between words takes a time that grows with the square of a word's length: seconds for a
+/// hundred thousand letters in one piece.
+void NoteEdit::PrepareFor(qsizetype length) {
+  constexpr qsizetype kLongText = 10'000;
+  if (length > kLongText) setWordWrapMode(QTextOption::WrapAnywhere);
+}
+
+}  // namespace mivo
