@@ -84,7 +84,7 @@ QLabel* FormDialog::MakeLabel(TextId text, QWidget& control) {
   label->setBuddy(&control);
   // The line under the mnemonic parts letters that stand closer together without it, which the
   // label's width leaves out.
-  label->setMinimumWidth(label->sizeHint().width() + label->fontMetrics().height() / 8);
+  label->setMinimumWidth(label->sizeHint().width() + label->fontMetrics().height() / 4);
   return label;
 }
 
