@@ -18,7 +18,7 @@ struct Row {
   const SComponent& component;
   std::size_t index;
   std::optional<std::size_t> patternObjects;
-  std::size_t bitPatternBytes;
+  std::int64_t bitPatternBytes;  ///< that its size takes, stored or not
 };
 
 /// Calls `write` with each row in list order and hands the sink what that appends to `text`.
@@ -34,7 +34,9 @@ bool WriteRows(ByteSink& sink, const SMivoDoc& doc, std::string& text, WriteRow 
     Row row{*entry, component, indices.at(&component), std::nullopt, 0};
     if (const SPtn* pattern = component.Pattern()) {
       row.patternObjects = pattern->objects.size();
-      if (pattern->bitPattern) row.bitPatternBytes = pattern->bitPattern->Bytes().size();
+      if (pattern->bitPattern) {
+        row.bitPatternBytes = SBitPattern::ByteCountOf(pattern->bitPattern->Size());
+      }
     }
     write(row);
     if (text.size() < kPieceBytes) continue;

@@ -45,6 +45,12 @@ TEST(List, NamesTheBlockTypes) {
             "S\t1\t4x3\t1\tSHB\t0\t-\t0\n");
 }
 
+TEST(List, CountsTheBytesOfTheWholeBitPattern) {
+  const std::string pattern = "+PTN,N:W,X:600,Y:2,+BMP,-BMP,-PTN\n";
+  EXPECT_EQ(ListingOf(LibraryOf(pattern + "+COMP,N:W,X:1,Y:1,B:1,P:W,-COMP\n")),
+            "W\t0\t1x1\t1\tGEN\t0\t0\t152\n");
+}
+
 TEST(List, ReadsAFile) {
   const TempFolder folder;
   CapturedIo captured;
