@@ -3,6 +3,10 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
+#include "about_dlg.h"
+#include "add_alias.h"
+#include "comp_property.h"
+#include "prop_lib.h"
 #include "qt_text.h"
 
 namespace mivo {
@@ -42,6 +46,22 @@ bool DialogPrompts::Confirm(StringId question) {
 
 void DialogPrompts::Warn(StringId message) {
   QMessageBox::warning(&frame_, kTitle, ToQString(texts_.Text(message)));
+}
+
+std::optional<CompPropertyValues> DialogPrompts::AskComponent(const CompPropertyValues& values) {
+  return CCompProperty::Ask(texts_, values, &frame_);
+}
+
+std::optional<std::u16string> DialogPrompts::AskAlias(std::u16string_view name) {
+  return CAddAlias::Ask(texts_, name, &frame_);
+}
+
+std::optional<std::u16string> DialogPrompts::AskLibraryText(std::u16string_view text) {
+  return CPropLib::Ask(texts_, text, &frame_);
+}
+
+void DialogPrompts::ShowAbout() {
+  CAboutDlg(texts_, &frame_).exec();
 }
 
 }  // namespace mivo

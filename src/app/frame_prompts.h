@@ -2,7 +2,10 @@
 #define MIVO_APP_FRAME_PROMPTS_H
 
 #include <QString>
+#include <optional>
+#include <string>
 
+#include "comp_property_values.h"
 #include "text_table.h"
 
 class QWidget;
@@ -24,6 +27,14 @@ class FramePrompts {
   /// OK or Cancel.
   [[nodiscard]] virtual bool Confirm(StringId question) = 0;
   virtual void Warn(StringId message) = 0;
+
+  // Dialogs: what is in them after OK, nothing after Cancel.
+  [[nodiscard]] virtual std::optional<CompPropertyValues> AskComponent(
+      const CompPropertyValues& values) = 0;
+  /// A further name for the component listed as `name`.
+  [[nodiscard]] virtual std::optional<std::u16string> AskAlias(std::u16string_view name) = 0;
+  [[nodiscard]] virtual std::optional<std::u16string> AskLibraryText(std::u16string_view text) = 0;
+  virtual void ShowAbout() = 0;
 };
 
 /// Asks with real dialogs over `frame`.
@@ -37,6 +48,11 @@ class DialogPrompts final : public FramePrompts {
   [[nodiscard]] SaveAnswer AskSaveChanges() override;
   [[nodiscard]] bool Confirm(StringId question) override;
   void Warn(StringId message) override;
+  [[nodiscard]] std::optional<CompPropertyValues> AskComponent(
+      const CompPropertyValues& values) override;
+  [[nodiscard]] std::optional<std::u16string> AskAlias(std::u16string_view name) override;
+  [[nodiscard]] std::optional<std::u16string> AskLibraryText(std::u16string_view text) override;
+  void ShowAbout() override;
 
  private:
   QWidget& frame_;

@@ -46,7 +46,7 @@ CMainFrame::CMainFrame(SettingsFile& settings, const TextTable& texts)
     : settings_(settings),
       texts_(texts),
       prompts_(std::make_unique<DialogPrompts>(*this, texts)),
-      propertyPrompts_(*this),
+      propertyPrompts_(texts, labelFont_, *this),
       actions_(new CommandActions(texts, this)),
       view_(new CCompEditView(propertyPrompts_, this)) {
   setWindowIcon(ProgramIcon());
@@ -106,6 +106,8 @@ void CMainFrame::CreateParts() {
     menu.exec(Names().viewport()->mapToGlobal(at));
   });
   connect(&Names(), &SLBCompName::SelectionChanged, this, &CMainFrame::ShowSelectedComponent);
+  connect(&Names(), &SLBCompName::PropertyRequested, this,
+          [this] { Execute(Command::ComponentProperty); });
   connect(actions_, &CommandActions::Triggered, this, &CMainFrame::Execute);
   connect(view_, &CCompEditView::CommandsChanged, this, [this] {
     UpdateActions();
@@ -133,12 +135,11 @@ void CMainFrame::CreateParts() {
 }
 
 void CMainFrame::ReadSettings() {
-  SCommonFont font;
-  font.height = settings_.GetInt(u"LabelFont", u"Height", font.height);
-  font.weight = settings_.GetInt(u"LabelFont", u"IsBold", font.weight);
-  font.italic = settings_.GetInt(u"LabelFont", u"IsItalic", 0) != 0;
-  font.face = settings_.GetString(u"LabelFont", u"FaceName", font.face);
-  view_->SetCommonFont(font);
+  labelFont_.height = settings_.GetInt(u"LabelFont", u"Height", labelFont_.height);
+  labelFont_.weight = settings_.GetInt(u"LabelFont", u"IsBold", labelFont_.weight);
+  labelFont_.italic = settings_.GetInt(u"LabelFont", u"IsItalic", 0) != 0;
+  labelFont_.face = settings_.GetString(u"LabelFont", u"FaceName", labelFont_.face);
+  view_->SetCommonFont(labelFont_);
 
   // Any value but 0 means true, and so does a missing one.
   const bool keepsFarObjects = settings_.GetInt(u"Setting", u"NoCheckPtnRectOnSave", 50) != 0;
@@ -197,6 +198,21 @@ void CMainFrame::Execute(Command command) {
     case Command::SortByName:
       SortByName();
       break;
+    case Command::NewComponent:
+      NewComponent();
+      break;
+    case Command::ComponentProperty:
+      EditComponentProperty();
+      break;
+    case Command::AddAlias:
+      AddAlias();
+      break;
+    case Command::LibraryProperty:
+      EditLibraryProperty();
+      break;
+    case Command::About:
+      prompts_->ShowAbout();
+      break;
     default:
       view_->Editor().Execute(command);
       break;
@@ -215,6 +231,9 @@ void CMainFrame::UpdateActions() {
       case Command::Open:
       case Command::Save:
       case Command::Exit:
+      case Command::NewComponent:
+      case Command::LibraryProperty:
+      case Command::About:
         break;
       case Command::SaveAs:
         enabled = !temporaryFileMode_;
@@ -227,6 +246,8 @@ void CMainFrame::UpdateActions() {
         break;
       case Command::CutComponent:
       case Command::CopyComponent:
+      case Command::ComponentProperty:
+      case Command::AddAlias:
         enabled = row >= 0;
         break;
       case Command::PasteComponent:

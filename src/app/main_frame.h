@@ -7,8 +7,8 @@
 #include "comp_edit_doc.h"
 #include "frame_prompts.h"
 #include "mivo_doc.h"
+#include "property_dialogs.h"
 #include "settings_file.h"
-#include "stand_in_prompts.h"
 #include "text_table.h"
 
 class QLabel;
@@ -85,7 +85,11 @@ class CMainFrame final : public QMainWindow {
   void CopyComponent();
   void CutComponent();
   void PasteComponent();
+  void NewComponent();
+  void EditComponentProperty();
+  void AddAlias();
   void SortByName();
+  void EditLibraryProperty();
 
   SettingsFile& settings_;
   const TextTable& texts_;
@@ -96,7 +100,8 @@ class CMainFrame final : public QMainWindow {
   SCompEditDoc::FarObjects farObjects_ = SCompEditDoc::FarObjects::Keep;
   QString loadNote_;
 
-  StandInPrompts propertyPrompts_;
+  SCommonFont labelFont_;
+  PropertyDialogs propertyPrompts_;
   CommandActions* actions_;
   CCompEditView* view_;
   NamePane* pane_ = nullptr;

@@ -79,6 +79,51 @@ void CMainFrame::PasteComponent() {
   modified_ = true;
 }
 
+void CMainFrame::NewComponent() {
+  const std::optional<CompPropertyValues> values = prompts_->AskComponent({});
+  if (!values) return;
+  CommitEdit();
+  auto component = std::make_unique<SComponent>();
+  Apply(*values, *component);
+  InsertName(doc_.AddComponent(std::move(component), values->name));
+  modified_ = true;
+}
+
+void CMainFrame::EditComponentProperty() {
+  NameEntry* const entry = Names().SelectedEntry();
+  if (entry == nullptr) return;
+  CommitEdit();
+  SComponent& component = *entry->Component();
+  const auto values = prompts_->AskComponent(ValuesOf(entry->Name(), component));
+  if (!values) return;
+  Apply(*values, component);
+  if (values->name != entry->Name()) {
+    doc_.Rename(*entry, values->name);
+    Names().Names().NameChanged(Names().SelectedRow());
+  }
+  HandToView(entry);
+  view_->Editor().MarkChanged();
+  modified_ = true;
+}
+
+void CMainFrame::AddAlias() {
+  NameEntry* const entry = Names().SelectedEntry();
+  if (entry == nullptr) return;
+  CommitEdit();
+  const std::optional<std::u16string> alias = prompts_->AskAlias(entry->Name());
+  if (!alias || alias->empty()) return;
+  const int row = Names().SelectedRow() + 1;
+  Names().Names().Insert(row, doc_.AddAlias(entry->Component(), *alias));
+  Names().SelectRow(row);
+}
+
+void CMainFrame::EditLibraryProperty() {
+  std::optional<std::u16string> text = prompts_->AskLibraryText(doc_.property);
+  if (!text) return;
+  doc_.property = *std::move(text);
+  modified_ = true;
+}
+
 void CMainFrame::SortByName() {
   if (Names().Names().rowCount() < 2 || !prompts_->Confirm(StringId::CannotUndo)) return;
   CommitEdit();

@@ -41,6 +41,27 @@ class ScriptedPrompts final : public FramePrompts {
   [[nodiscard]] bool Confirm(StringId) override { return Next(confirmations, "confirm", false); }
   void Warn(StringId message) override { warnings.push_back(message); }
 
+  std::deque<std::optional<CompPropertyValues>> components;  ///< answers
+  std::vector<CompPropertyValues> shownComponents;
+  std::deque<std::optional<std::u16string>> texts;  ///< answers to alias and library text
+  std::vector<std::u16string> shownTexts;
+  int aboutShown = 0;
+
+  [[nodiscard]] std::optional<CompPropertyValues> AskComponent(
+      const CompPropertyValues& values) override {
+    shownComponents.push_back(values);
+    return Next(components, "component", std::optional<CompPropertyValues>());
+  }
+  [[nodiscard]] std::optional<std::u16string> AskAlias(std::u16string_view name) override {
+    shownTexts.emplace_back(name);
+    return Next(texts, "alias", std::optional<std::u16string>());
+  }
+  [[nodiscard]] std::optional<std::u16string> AskLibraryText(std::u16string_view text) override {
+    shownTexts.emplace_back(text);
+    return Next(texts, "library text", std::optional<std::u16string>());
+  }
+  void ShowAbout() override { ++aboutShown; }
+
  private:
   template <typename Answer>
   static Answer Next(std::deque<Answer>& answers, const char* question, Answer cancelled) {

@@ -134,6 +134,84 @@ TEST_F(MainFrameNamesTest, CutOfEveryNameLeavesTheViewEmpty) {
   EXPECT_FALSE(IsEnabled(Command::CopyComponent));
 }
 
+TEST_F(MainFrameNamesTest, NewComponentStandsBeforeTheSelectedOne) {
+  Select(1);
+  CompPropertyValues values;
+  values.name = u"b";
+  values.width = 7;
+  values.usePattern = true;
+  values.note = u"fresh";
+  Prompts().components = {values};
+  Trigger(Command::NewComponent);
+  EXPECT_EQ(Prompts().shownComponents, std::vector{CompPropertyValues{}});
+  EXPECT_EQ(ListedNames(), "b [b(1)] a b2 C");
+  EXPECT_EQ(NoteText(), "fresh");
+  EXPECT_EQ(Shown()->Size(), (SPoint{7, 2}));
+  EXPECT_NE(Shown()->Pattern(), nullptr);
+  EXPECT_TRUE(Frame().IsModified());
+}
+
+TEST_F(MainFrameNamesTest, CancelledNewComponentChangesNothing) {
+  Prompts().components = {std::nullopt};
+  Trigger(Command::NewComponent);
+  EXPECT_EQ(ListedNames(), "[b] a b2 C");
+  EXPECT_FALSE(Frame().IsModified());
+}
+
+TEST_F(MainFrameNamesTest, ComponentPropertyRenamesAndChangesTheComponent) {
+  CompPropertyValues values = ValuesOf(u"b", *Shown());
+  values.name = u"a";
+  values.note = u"changed";
+  values.blocks = 3;
+  Prompts().components = {values};
+  Trigger(Command::ComponentProperty);
+  EXPECT_EQ(Prompts().shownComponents.front().note, u"note of b");
+  EXPECT_EQ(ListedNames(), "[a(1)] a b2 C");
+  EXPECT_EQ(NoteText(), "changed");
+  EXPECT_EQ(Shown()->BlockCount(), 3);
+  EXPECT_EQ(Frame().View().Editor().Document().Blocks(), 3);
+  EXPECT_TRUE(Frame().IsModified());
+}
+
+TEST_F(MainFrameNamesTest, DoubleClickOpensTheProperty) {
+  Frame().show();
+  SLBCompName& list = Frame().Names();
+  Prompts().components = {std::nullopt};
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                     list.visualRect(list.Names().index(0)).center());
+  EXPECT_EQ(Prompts().shownComponents.size(), 1u);
+}
+
+TEST_F(MainFrameNamesTest, AliasStandsBehindTheSelectedNameAndIsNoModification) {
+  Prompts().texts = {u"a"};
+  const SComponent* const component = Shown();
+  Trigger(Command::AddAlias);
+  EXPECT_EQ(Prompts().shownTexts, std::vector<std::u16string>{u"b"});
+  EXPECT_EQ(ListedNames(), "b [a(1)] a b2 C");
+  EXPECT_EQ(Shown(), component);
+  EXPECT_FALSE(Frame().IsModified());
+}
+
+TEST_F(MainFrameNamesTest, EmptyAliasAddsNothing) {
+  Prompts().texts = {u""};
+  Trigger(Command::AddAlias);
+  EXPECT_EQ(ListedNames(), "[b] a b2 C");
+}
+
+TEST_F(MainFrameNamesTest, LibraryTextIsEditedAndSaved) {
+  Prompts().texts = {u"our parts"};
+  Trigger(Command::LibraryProperty);
+  EXPECT_EQ(Prompts().shownTexts, std::vector<std::u16string>{u""});
+  EXPECT_TRUE(Frame().IsModified());
+  Trigger(Command::Save);
+  EXPECT_THAT(Content("parts.ZLB"), testing::HasSubstr("PROP:our%20parts\n"));
+}
+
+TEST_F(MainFrameNamesTest, AboutIsShown) {
+  Trigger(Command::About);
+  EXPECT_EQ(Prompts().aboutShown, 1);
+}
+
 TEST_F(MainFrameNamesTest, LettersAndDelDoNothingInTheList) {
   QTest::keyClick(&Frame().Names(), Qt::Key_C);
   QTest::keyClick(&Frame().Names(), Qt::Key_Delete);
