@@ -86,8 +86,6 @@ void CompEditor::PressLeft(PixelPoint at) {
   leftDown_ = true;
   session_.SetCapture(true);
   if (session_.component != nullptr) BeginPress(session_.PointerAt(at));
-  // A dialog has taken the mouse: no release will come.
-  if (!session_.HasCapture()) FinishPress();
   Settle();
 }
 

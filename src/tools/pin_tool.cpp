@@ -12,7 +12,6 @@ PinTool::PinTool(const EditSession& session) {
 }
 
 void PinTool::Label(std::u16string_view name, std::u16string_view number) {
-  pin_.ResizeNumbers(1);
   pin_.SetNameFromDisplayText(name);
   pin_.SetNumber(0, number);
 }

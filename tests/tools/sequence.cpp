@@ -8,10 +8,10 @@
 namespace mivo {
 namespace {
 
-/// Without blanks around it and without a comment behind " #".
+/// Without blanks around it and without a comment behind " # ".
 std::string Trimmed(std::string line) {
   if (line.starts_with('#')) return {};
-  line.erase(std::min(line.find(" #"), line.size()));
+  line.erase(std::min(line.find(" # "), line.size()));
   const std::size_t first = line.find_first_not_of(' ');
   if (first == line.npos) return {};
   return line.substr(first, line.find_last_not_of(' ') - first + 1);

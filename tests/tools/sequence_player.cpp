@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "notation.h"
+#include "recording_surface.h"
 #include "text_encoding.h"
 
 namespace mivo {
@@ -171,6 +172,9 @@ std::optional<std::string> SequencePlayer::Do(const std::string& step) {
 }
 
 bool SequencePlayer::Prepare(const std::string& verb, std::string_view rest, const Words& words) {
+  if (opened_ && (verb == "component" || verb == "has")) {
+    throw std::invalid_argument("the component is open already");
+  }
   if (verb == "component") {
     const std::vector<std::string> size = SplitAt(words.at(0), 'x');
     rig_.component =
@@ -210,7 +214,11 @@ bool SequencePlayer::Act(const std::string& verb, const Words& words) {
   } else if (verb == "grid-select") {
     lastResult_ = YesNo(editor.SelectPin(ParsePlace(words.at(0))));
   } else if (verb == "grid-edit") {
-    editor.Document().SingleSelection()->Pin()->SetNameFromDisplayText(Utf8ToUtf16(words.at(0)));
+    const SCompEditElm* const selected = editor.Document().SingleSelection();
+    if (selected == nullptr || selected->Pin() == nullptr) {
+      throw std::invalid_argument("no pin to edit");
+    }
+    selected->Pin()->SetNameFromDisplayText(Utf8ToUtf16(words.at(0)));
     editor.SelectedPinEdited();
   } else if (verb == "commit") {
     lastResult_ = YesNo(editor.Commit(Has(words, "keep") ? SCompEditDoc::FarObjects::Keep
@@ -219,8 +227,10 @@ bool SequencePlayer::Act(const std::string& verb, const Words& words) {
     editor.MarkChanged();
   } else if (verb == "close") {
     editor.SetComponent(nullptr);
+    loaded_ = DescribeDocument(editor.Document());
   } else if (verb == "reopen") {
     editor.SetComponent(&rig_.component);
+    loaded_ = DescribeDocument(editor.Document());
   } else if (verb == "window") {
     const std::vector<std::string> size = SplitAt(words.at(0), 'x');
     const std::optional<std::string> ratio = ValueOf(words, "ratio");
@@ -332,6 +342,7 @@ std::optional<std::string> SequencePlayer::Actual(const std::string& verb, const
     return rig_.clipboard.text ? Escaped(*rig_.clipboard.text) : std::string("none");
   }
   if (verb == "asked") return Asked();
+  if (verb == "front") return Front();
   if (verb == "undo-all") return UndoneToTheStart();
   if (verb == "at") {
     // Where a component point is shown.
@@ -361,6 +372,17 @@ std::optional<std::string> SequencePlayer::Actual(const std::string& verb, const
 std::string SequencePlayer::Asked() const {
   if (rig_.prompts.asked.empty()) return "nothing";
   return std::visit([](const auto& values) { return Text(values); }, rig_.prompts.asked.back());
+}
+
+std::string SequencePlayer::Front() {
+  RecordingSurface surface(rig_.editor.Coordinates().ClientSize());
+  rig_.editor.PaintFront(surface);
+  std::string calls;
+  for (const std::string& call : SplitAt(surface.TakeRecord(), '\n')) {
+    if (call.empty() || call.starts_with("origin ")) continue;
+    calls += Concat({calls.empty() ? "" : " / ", call});
+  }
+  return calls.empty() ? "nothing" : calls;
 }
 
 std::string SequencePlayer::UndoneToTheStart() {

@@ -17,6 +17,8 @@ class SequencePlayer {
   /// step that makes no sense.
   [[nodiscard]] std::optional<std::string> Do(const std::string& step);
 
+  [[nodiscard]] EditRig& Rig() noexcept { return rig_; }
+
  private:
   using Words = std::vector<std::string>;
 
@@ -27,6 +29,7 @@ class SequencePlayer {
   void Answer(const Words& words);
   [[nodiscard]] std::optional<std::string> Actual(const std::string& verb, const Words& words);
   [[nodiscard]] std::string Asked() const;
+  [[nodiscard]] std::string Front();
   [[nodiscard]] std::string UndoneToTheStart();
   [[nodiscard]] PixelPoint Pixel(std::string_view word) const;
 
