@@ -213,6 +213,9 @@ void CMainFrame::Execute(Command command) {
     case Command::About:
       prompts_->ShowAbout();
       break;
+    case Command::CreateBitPattern:
+      if (prompts_->Confirm(StringId::OverwriteBitPattern)) view_->Editor().Execute(command);
+      break;
     default:
       view_->Editor().Execute(command);
       break;

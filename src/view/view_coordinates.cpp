@@ -58,7 +58,7 @@ void ViewCoordinates::ScrollByLines(SPoint lines) {
 void ViewCoordinates::ScrollToKeep(PixelPoint pixel, SPoint point) {
   const std::int64_t margin = MarginPixels();
   const PixelPoint scaled = scale_.Map(point);
-  PlaceBoth(scaled.x - pixel.x + margin, scaled.y - pixel.y + margin);
+  PlaceBoth(std::int64_t{scaled.x} - pixel.x + margin, std::int64_t{scaled.y} - pixel.y + margin);
 }
 
 PixelPoint ViewCoordinates::ToDevice(SPoint point) const noexcept {

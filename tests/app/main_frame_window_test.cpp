@@ -40,6 +40,23 @@ TEST_F(MainFrameWindowTest, FarObjectsAreDroppedOnlyWhenTheSettingSaysSo) {
   }
 }
 
+TEST_F(MainFrameWindowTest, BitPatternIsOverwrittenOnlyAfterAQuestion) {
+  Put("p.ZLB",
+      LibraryFile("+PTN,N:p,X:41,Y:31\n+BMP\n-BMP\n+L,W:1,S:0,CV:0,X:0,Y:0,X:7,Y:0,-L\n-PTN\n"
+                  "+COMP,N:p\nX:4,Y:3,B:1\nTYPE:GEN,FB:0\nR:U\nP:p\nNOTE:,-COMP\n"));
+  Frame().Open(PathOf("p.ZLB"));
+  const auto firstByte = [&] {
+    return Frame().View().Editor().Component()->Pattern()->bitPattern->Bytes().front();
+  };
+  Prompts().confirmations = {false};
+  Trigger(Command::CreateBitPattern);
+  EXPECT_EQ(firstByte(), 0);
+  Prompts().confirmations = {true};
+  Trigger(Command::CreateBitPattern);
+  EXPECT_EQ(firstByte(), 0xFF);
+  EXPECT_TRUE(Prompts().confirmations.empty());
+}
+
 TEST_F(MainFrameWindowTest, SizeIsKeptForTheNextStart) {
   Frame().show();
   Frame().resize(777, 555);
