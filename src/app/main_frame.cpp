@@ -259,6 +259,9 @@ void CMainFrame::UpdateActions() {
       case Command::SortByName:
         enabled = count >= 2;
         break;
+      case Command::PinProperty:
+        enabled = false;  // there is no table of pins yet
+        break;
       default:
         enabled = editor.IsEnabled(command);
         if (action->isCheckable()) action->setChecked(editor.IsChecked(command));
