@@ -24,6 +24,7 @@
 #include "comp_edit_view.h"
 #include "lb_comp_name.h"
 #include "name_pane.h"
+#include "pin_props.h"
 #include "qt_text.h"
 #include "schematic_data.h"
 
@@ -60,6 +61,7 @@ CMainFrame::CMainFrame(SettingsFile& settings, const TextTable& texts)
 }
 
 CMainFrame::~CMainFrame() {
+  pinProps_.reset();  // while there is an editor that it can work on
   // The view works on components that the library owns.
   view_->Editor().SetComponent(nullptr);
 }
@@ -113,6 +115,7 @@ void CMainFrame::CreateParts() {
     UpdateActions();
     UpdateStatus();
   });
+  connect(view_, &CCompEditView::PinGridToggled, this, &CMainFrame::TogglePinGrid);
   connect(view_, &CCompEditView::ContextMenuRequested, this, [this](QPoint at) {
     QMenu menu;
     actions_->FillViewMenu(menu);
@@ -163,7 +166,30 @@ void CMainFrame::SaveWindowPlacement() {
   settings_.SetInt(u"WindowPosition", u"Height", size.height());
 }
 
+void CMainFrame::TogglePinGrid() {
+  if (pinProps_ != nullptr && pinProps_->isVisible()) {
+    pinProps_->reject();
+    return;
+  }
+  if (pinProps_ == nullptr) {
+    pinProps_ = std::make_unique<CPinProps>(view_->Editor(), view_->CommonFont(), texts_, this);
+    connect(pinProps_.get(), &QDialog::finished, this, [this] {
+      view_->SetPinGridShown(false);
+      UpdateActions();
+    });
+    connect(view_, &CCompEditView::PinsEdited, pinProps_.get(), &CPinProps::Refresh);
+    pinProps_->PlaceBeside(*this);
+  }
+  view_->SetPinGridShown(true);
+  pinProps_->show();
+}
+
+void CMainFrame::EndGridEdit() {
+  if (pinProps_ != nullptr) pinProps_->EndEdit();
+}
+
 void CMainFrame::Execute(Command command) {
+  EndGridEdit();
   switch (command) {
     case Command::New:
       New();
@@ -258,9 +284,6 @@ void CMainFrame::UpdateActions() {
         break;
       case Command::SortByName:
         enabled = count >= 2;
-        break;
-      case Command::PinProperty:
-        enabled = false;  // there is no table of pins yet
         break;
       default:
         enabled = editor.IsEnabled(command);

@@ -16,6 +16,7 @@ class QLabel;
 namespace mivo {
 
 class CCompEditView;
+class CPinProps;
 class CommandActions;
 class NamePane;
 class SLBCompName;
@@ -66,6 +67,9 @@ class CMainFrame final : public QMainWindow {
   void ShowTitle();
   /// Along view, list and note box; `direction` is 1 or -1.
   void MoveFocus(int direction);
+  void TogglePinGrid();
+  /// Keeps what was typed into a cell of the pin grid.
+  void EndGridEdit();
 
   // main_frame_file.cpp: library and file
   void New();
@@ -106,6 +110,7 @@ class CMainFrame final : public QMainWindow {
   CCompEditView* view_;
   NamePane* pane_ = nullptr;
   QLabel* statusText_ = nullptr;
+  std::unique_ptr<CPinProps> pinProps_;  ///< null until it was shown for the first time
 };
 
 }  // namespace mivo

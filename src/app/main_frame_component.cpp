@@ -13,6 +13,7 @@
 namespace mivo {
 
 void CMainFrame::CommitEdit() {
+  EndGridEdit();
   if (view_->Editor().Commit(farObjects_)) modified_ = true;
 }
 

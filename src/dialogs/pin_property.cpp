@@ -27,6 +27,7 @@ namespace text = dialog_text::pin_property;
 
 constexpr int kNameCharacters = 32;
 constexpr int kNumberCharacters = 16;
+constexpr SRect kStyleArea{-26, -13, 40, 9};  // see PinStylePicture
 
 struct StyleButton {
   const char* objectName;
@@ -107,8 +108,8 @@ QGroupBox* CPinProperty::MakeStyleGroup(const SCommonFont& font) {
     const auto index = static_cast<std::size_t>(i);
     const StyleButton& style = kStyleButtons[index];
     auto* const button = Named(new QRadioButton(group), style.objectName, style.text);
-    const QPixmap picture =
-        PinStylePicture(PinForm::kStyles[index], font, pixelsPerUnit, devicePixelRatio());
+    const QPixmap picture = PinStylePicture(PinForm::kStyles[index], u"NAME", kStyleArea, font,
+                                            pixelsPerUnit, devicePixelRatio());
     button->setIcon(picture);
     button->setIconSize(picture.deviceIndependentSize().toSize());
     button->setToolTip(SpokenText(style.text));

@@ -96,6 +96,22 @@ inline constexpr TextId kUseCommonFont = Control(148, 1037);
 inline constexpr TextId kFont = Control(148, 1038);
 }  // namespace ptn_text
 
+namespace pin_props {
+inline constexpr TextId kTitle = Title(152);
+inline constexpr TextId kClose = Control(152, 2);
+inline constexpr TextId kGrid = Control(152, 3);  ///< said of the table
+// The headings.
+inline constexpr TextId kLocation = Control(152, 4);
+inline constexpr TextId kName = Control(152, 5);
+inline constexpr TextId kStyle = Control(152, 6);
+inline constexpr TextId kNumber = Control(152, 7);
+inline constexpr TextId kHide = Control(152, 8);
+inline constexpr TextId kBlock = Control(152, 9);  ///< "%d" stands for the number of the block
+// Said of the scroll bars.
+inline constexpr TextId kRowBar = Control(152, 1039);
+inline constexpr TextId kBlockBar = Control(152, 1040);
+}  // namespace pin_props
+
 namespace pin_name_show_hide {
 inline constexpr TextId kTitle = Title(157);
 inline constexpr TextId kParts = Control(157, 1047);  ///< said of the list

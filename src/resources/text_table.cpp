@@ -225,6 +225,18 @@ constexpr auto kDialogs = [] {
       {ptn_text::kUseCommonFont, u"Use common font"},
       {ptn_text::kFont, u"&Font..."},
 
+      {pin_props::kTitle, u"Pin property"},
+      {pin_props::kClose, u"Close"},
+      {pin_props::kGrid, u"Pins"},
+      {pin_props::kLocation, u"Loc"},
+      {pin_props::kName, u"Name"},
+      {pin_props::kStyle, u"Type"},
+      {pin_props::kNumber, u"Num"},
+      {pin_props::kHide, u"Hide"},
+      {pin_props::kBlock, u"Block %d"},
+      {pin_props::kRowBar, u"Rows"},
+      {pin_props::kBlockBar, u"Blocks"},
+
       {pin_name_show_hide::kTitle, u"Show/Hide name individually"},
       {pin_name_show_hide::kParts, u"Parts of the name"},
       {pin_name_show_hide::kShowAll, u"Show All"},
