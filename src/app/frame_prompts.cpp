@@ -1,11 +1,14 @@
 #include "frame_prompts.h"
 
+#include <QAbstractButton>
 #include <QFileDialog>
-#include <QMessageBox>
+#include <array>
+#include <utility>
 
 #include "about_dlg.h"
 #include "add_alias.h"
 #include "comp_property.h"
+#include "dialog_texts.h"
 #include "prop_lib.h"
 #include "qt_text.h"
 
@@ -13,39 +16,64 @@ namespace mivo {
 namespace {
 
 const QString kTitle = QStringLiteral("Mivo");
-const QString kLibraryFilter = QStringLiteral("Tarsel library file(*.zlb) (*.zlb *.ZLB)");
-const QString kSchematicFilter = QStringLiteral("Tarsel schematic(*.zsc) (*.zsc *.ZSC)");
+const QString kLibraryFiles = QStringLiteral(" (*.zlb *.ZLB)");
+const QString kSchematicFiles = QStringLiteral(" (*.zsc *.ZSC)");
+
+constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonTexts = {{
+    {QMessageBox::Ok, dialog_text::kOk},
+    {QMessageBox::Cancel, dialog_text::kCancel},
+    {QMessageBox::Yes, dialog_text::kYes},
+    {QMessageBox::No, dialog_text::kNo},
+}};
 
 }  // namespace
 
 QString DialogPrompts::AskOpenPath() {
+  const QString schematics = ToQString(texts_.Text(StringId::SchematicFilter)) + kSchematicFiles;
   return QFileDialog::getOpenFileName(&frame_, QString(), QString(),
-                                      kLibraryFilter + QStringLiteral(";;") + kSchematicFilter);
+                                      LibraryFilter() + QStringLiteral(";;") + schematics);
 }
 
 QString DialogPrompts::AskSavePath(const QString& proposed) {
-  QFileDialog dialog(&frame_, QString(), QString(), kLibraryFilter);
+  QFileDialog dialog(&frame_, QString(), QString(), LibraryFilter());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("ZLB"));
   dialog.selectFile(proposed);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString DialogPrompts::LibraryFilter() const {
+  return ToQString(texts_.Text(StringId::LibraryFilter)) + kLibraryFiles;
+}
+
 SaveAnswer DialogPrompts::AskSaveChanges() {
-  const auto answer = QMessageBox::question(
-      &frame_, kTitle, ToQString(texts_.Text(StringId::SaveChanges)),
-      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
-  if (answer == QMessageBox::Yes) return SaveAnswer::Save;
-  return answer == QMessageBox::No ? SaveAnswer::Discard : SaveAnswer::Cancel;
+  switch (Ask(QMessageBox::Question, StringId::SaveChanges,
+              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+    case QMessageBox::Yes:
+      return SaveAnswer::Save;
+    case QMessageBox::No:
+      return SaveAnswer::Discard;
+    default:
+      return SaveAnswer::Cancel;
+  }
 }
 
 bool DialogPrompts::Confirm(StringId question) {
-  return QMessageBox::question(&frame_, kTitle, ToQString(texts_.Text(question)),
-                               QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+  return Ask(QMessageBox::Question, question, QMessageBox::Ok | QMessageBox::Cancel) ==
+         QMessageBox::Ok;
 }
 
 void DialogPrompts::Warn(StringId message) {
-  QMessageBox::warning(&frame_, kTitle, ToQString(texts_.Text(message)));
+  Ask(QMessageBox::Warning, message, QMessageBox::Ok);
+}
+
+int DialogPrompts::Ask(QMessageBox::Icon icon, StringId message,
+                       QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, kTitle, ToQString(texts_.Text(message)), buttons, &frame_);
+  for (const auto& [button, text] : kButtonTexts) {
+    if (box.button(button) != nullptr) box.button(button)->setText(ToQString(texts_.Text(text)));
+  }
+  return box.exec();
 }
 
 std::optional<CompPropertyValues> DialogPrompts::AskComponent(const CompPropertyValues& values) {

@@ -1,6 +1,7 @@
 #ifndef MIVO_APP_FRAME_PROMPTS_H
 #define MIVO_APP_FRAME_PROMPTS_H
 
+#include <QMessageBox>
 #include <QString>
 #include <optional>
 #include <string>
@@ -55,6 +56,10 @@ class DialogPrompts final : public FramePrompts {
   void ShowAbout() override;
 
  private:
+  [[nodiscard]] QString LibraryFilter() const;
+  /// Shows a message box; returns the button that was chosen.
+  int Ask(QMessageBox::Icon icon, StringId message, QMessageBox::StandardButtons buttons);
+
   QWidget& frame_;
   const TextTable& texts_;
 };

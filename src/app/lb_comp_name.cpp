@@ -106,7 +106,6 @@ QVariant NameListModel::data(const QModelIndex& index, int role) const {
 
 SLBCompName::SLBCompName(QWidget* parent) : QListView(parent) {
   setObjectName(QStringLiteral("nameList"));
-  setAccessibleName(tr("Component names"));
   setModel(&model_);
   setItemDelegate(new NameDelegate(*this));
   setUniformItemSizes(true);

@@ -1,5 +1,7 @@
 #include "load_note.h"
 
+#include "qt_text.h"
+
 namespace mivo {
 
 void LoadNote::Report(const Finding& finding) {
@@ -9,12 +11,11 @@ void LoadNote::Report(const Finding& finding) {
   if (!finding_ || (isError && !keptIsError)) finding_ = finding;
 }
 
-QString LoadNote::Text() const {
+QString LoadNote::Text(const TextTable& texts) const {
   if (!finding_) return {};
-  const std::string_view message = MessageOf(finding_->kind);
-  return QStringLiteral("Line %1: %2")
-      .arg(finding_->line)
-      .arg(QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size())));
+  return ToQString(texts.Text(StringId::LoadFinding))
+      .replace(QStringLiteral("%d"), QString::number(finding_->line))
+      .replace(QStringLiteral("%s"), ToQString(texts.Text(IdOf(finding_->kind))));
 }
 
 }  // namespace mivo

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "finding.h"
+#include "text_table.h"
 
 namespace mivo {
 
@@ -16,7 +17,7 @@ class LoadNote final : public FindingSink {
   void Report(const Finding& finding) override;
 
   /// "Line 12: what happened"; empty when nothing did.
-  [[nodiscard]] QString Text() const;
+  [[nodiscard]] QString Text(const TextTable& texts) const;
 
  private:
   std::optional<Finding> finding_;

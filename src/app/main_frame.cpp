@@ -76,9 +76,10 @@ QAction* CMainFrame::Action(Command command) const {
 
 void CMainFrame::CreateParts() {
   setCentralWidget(view_);
+  view_->setAccessibleName(ToQString(texts_.Text(StringId::ViewName)));
 
   actions_->FillMenuBar(*menuBar());
-  auto* const toolBar = addToolBar(QStringLiteral("Toolbar"));
+  auto* const toolBar = addToolBar(ToQString(texts_.Text(StringId::ToolBarName)));
   toolBar->setObjectName(QStringLiteral("toolBar"));
   toolBar->setMovable(false);
   actions_->FillToolBar(*toolBar);
@@ -86,8 +87,8 @@ void CMainFrame::CreateParts() {
   statusText_ = new QLabel(this);
   statusText_->setObjectName(QStringLiteral("statusText"));
   statusBar()->addWidget(statusText_, 1);
-  for (const char* const key : {"CAP", "NUM", "SCRL"}) {
-    auto* const indicator = new QLabel(QLatin1String(key), this);
+  for (const StringId key : {StringId::CapsLock, StringId::NumLock, StringId::ScrollLock}) {
+    auto* const indicator = new QLabel(ToQString(texts_.Text(key)), this);
     indicator->setEnabled(false);
     statusBar()->addPermanentWidget(indicator);
   }
@@ -96,7 +97,7 @@ void CMainFrame::CreateParts() {
   dock->setObjectName(QStringLiteral("namePane"));
   dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
   dock->setTitleBarWidget(new QWidget(dock));
-  pane_ = new NamePane(*actions_, dock);
+  pane_ = new NamePane(*actions_, texts_, dock);
   dock->setWidget(pane_);
   addDockWidget(Qt::LeftDockWidgetArea, dock);
 

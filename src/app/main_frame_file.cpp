@@ -10,6 +10,7 @@
 #include "main_frame.h"
 #include "name_pane.h"
 #include "path_text.h"
+#include "qt_text.h"
 #include "read_file.h"
 
 namespace mivo {
@@ -21,7 +22,6 @@ bool HasExtension(const QString& path, const char* extension) {
 
 /// The file name to propose for a library: the same name with the extension of libraries.
 QString ProposedName(const QString& path) {
-  if (path.isEmpty()) return QStringLiteral("Untitled.ZLB");
   if (HasExtension(path, "zlb")) return path;
   const QFileInfo info(path);
   return info.dir().filePath(info.completeBaseName() + QStringLiteral(".ZLB"));
@@ -63,7 +63,7 @@ void CMainFrame::Open(const QString& path) {
     LoadNote note;
     // What was read before a fault stays, without a path.
     static_cast<void>(doc_.Load(content.Value(), pathText, &note));
-    loadNote_ = note.Text();
+    loadNote_ = note.Text(texts_);
     isLaterVersion = doc_.Version() > SMivoDoc::kVersion;
   } else {
     loadNote_ =
@@ -92,7 +92,9 @@ bool CMainFrame::Save() {
 
 bool CMainFrame::SaveAs() {
   if (temporaryFileMode_) return false;
-  const QString path = prompts_->AskSavePath(ProposedName(PathOf(doc_)));
+  const QString current = PathOf(doc_);
+  const QString path = prompts_->AskSavePath(
+      current.isEmpty() ? ToQString(texts_.Text(StringId::Untitled)) : ProposedName(current));
   if (path.isEmpty()) return false;
   if (HasExtension(path, "zsc")) {
     prompts_->Warn(StringId::SaveFailed);

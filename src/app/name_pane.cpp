@@ -6,6 +6,7 @@
 
 #include "command_actions.h"
 #include "lb_comp_name.h"
+#include "qt_text.h"
 
 namespace mivo {
 namespace {
@@ -16,14 +17,15 @@ constexpr int kNoteHeight = 100;
 
 }  // namespace
 
-NamePane::NamePane(const CommandActions& actions, QWidget* parent)
+NamePane::NamePane(const CommandActions& actions, const TextTable& texts, QWidget* parent)
     : QWidget(parent),
       moveUp_(CreateButton(actions.Action(Command::MoveNameUp))),
       moveDown_(CreateButton(actions.Action(Command::MoveNameDown))),
       list_(new SLBCompName(this)),
       note_(new QPlainTextEdit(this)) {
+  list_->setAccessibleName(ToQString(texts.Text(StringId::NameListName)));
   note_->setObjectName(QStringLiteral("noteBox"));
-  note_->setAccessibleName(tr("Note of the component"));
+  note_->setAccessibleName(ToQString(texts.Text(StringId::NoteName)));
   note_->setReadOnly(true);
   note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   // The note box covers the list's lower edge: its last row must stay in sight all the same.
@@ -50,7 +52,7 @@ QSize NamePane::sizeHint() const {
 }
 
 QSize NamePane::minimumSizeHint() const {
-  return {120, 240};
+  return {120, 180};
 }
 
 void NamePane::resizeEvent(QResizeEvent*) {

@@ -10,6 +10,7 @@ namespace mivo {
 
 class CommandActions;
 class SLBCompName;
+class TextTable;
 
 /// The left pane: two buttons that move the selected name up or down, the name list, and the note
 /// of the selected component.
@@ -17,7 +18,7 @@ class NamePane final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit NamePane(const CommandActions& actions, QWidget* parent = nullptr);
+  NamePane(const CommandActions& actions, const TextTable& texts, QWidget* parent = nullptr);
 
   [[nodiscard]] SLBCompName& List() const noexcept { return *list_; }
   void ShowNote(const QString& note);

@@ -1,6 +1,7 @@
 #include "finding_text.h"
 
 #include "printable_text.h"
+#include "text_encoding.h"
 
 namespace mivo {
 
@@ -14,7 +15,7 @@ std::string PlaceText(std::string_view file, std::int64_t line) {
 }
 
 std::string FindingText(const Finding& finding) {
-  std::string text(MessageOf(finding.kind));
+  std::string text = Utf16ToUtf8(MessageOf(finding.kind));
   // The reader fills up a field that the end of the data cuts off.
   const std::size_t end = finding.text.find(u'\xFFFF');
   if (!finding.text.empty()) {

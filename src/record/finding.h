@@ -47,13 +47,18 @@ enum class FindingKind {
   BitPatternsTooLarge,  ///< the bit patterns of the data pass the limit for all of them together
 };
 
+/// The kinds are numbered from 0.
+inline constexpr std::int32_t kFindingKinds =
+    static_cast<std::int32_t>(FindingKind::BitPatternsTooLarge) + 1;
+
 enum class Severity { Warning, Error };
 
 /// Error for what failed the read, Warning for everything else.
 [[nodiscard]] Severity SeverityOf(FindingKind kind) noexcept;
 
-/// One English sentence without a final stop, for listings and the status bar.
-[[nodiscard]] std::string_view MessageOf(FindingKind kind) noexcept;
+/// One English sentence without a final stop, for listings and the status bar; empty for a number
+/// that is no kind.
+[[nodiscard]] std::u16string_view MessageOf(FindingKind kind) noexcept;
 
 struct Finding {
   FindingKind kind;

@@ -20,6 +20,9 @@ namespace mivo::dialog_text {
 // What every dialog has.
 inline constexpr TextId kOk = Control(0, 1);
 inline constexpr TextId kCancel = Control(0, 2);
+// What message boxes have besides.
+inline constexpr TextId kYes = Control(0, 6);
+inline constexpr TextId kNo = Control(0, 7);
 
 namespace about {
 inline constexpr TextId kTitle = Title(100);

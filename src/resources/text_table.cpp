@@ -16,19 +16,19 @@ struct Entry {
 };
 
 constexpr Entry Message(StringId id, std::u16string_view text) {
-  return {{TextKind::String, static_cast<std::int32_t>(id)}, text};
+  return {IdOf(id), text};
 }
 
 constexpr Entry MenuText(Command command, std::u16string_view text) {
-  return {{TextKind::Command, static_cast<std::int32_t>(command)}, text};
+  return {IdOf(command), text};
 }
 
 constexpr Entry HintText(Command command, std::u16string_view text) {
-  return {{TextKind::Hint, static_cast<std::int32_t>(command)}, text};
+  return {HintIdOf(command), text};
 }
 
 constexpr Entry MenuTitle(MenuId menu, std::u16string_view text) {
-  return {{TextKind::Menu, static_cast<std::int32_t>(menu)}, text};
+  return {IdOf(menu), text};
 }
 
 constexpr auto kMessages = std::to_array<Entry>({
@@ -62,6 +62,21 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::HintArcEnd, u"Place arc: end direction"),
     Message(StringId::HintPlaceText, u"Place text"),
     Message(StringId::HintNoPattern, u"The component has no pattern to draw in"),
+    Message(StringId::ToolBarName, u"Toolbar"),
+    Message(StringId::NameListName, u"Component names"),
+    Message(StringId::NoteName, u"Note of the component"),
+    Message(StringId::ViewName, u"Drawing of the component"),
+    Message(StringId::CapsLock, u"CAP"),
+    Message(StringId::NumLock, u"NUM"),
+    Message(StringId::ScrollLock, u"SCRL"),
+    Message(StringId::LibraryFilter, u"Tarsel library file(*.zlb)"),
+    Message(StringId::SchematicFilter, u"Tarsel schematic(*.zsc)"),
+    Message(StringId::Untitled, u"Untitled.ZLB"),
+    Message(StringId::LoadFinding, u"Line %d: %s"),
+    Message(StringId::Purpose, u"Editor of schematic component libraries"),
+    Message(StringId::FileArgument, u"file"),
+    Message(StringId::FileHelp, u"library or schematic to open"),
+    Message(StringId::LanguageCode, u"en"),
 });
 
 constexpr auto kCommands = std::to_array<Entry>({
@@ -164,6 +179,8 @@ constexpr auto kDialogs = [] {
   return std::to_array<Entry>({
       {kOk, u"OK"},
       {kCancel, u"Cancel"},
+      {kYes, u"&Yes"},
+      {kNo, u"&No"},
 
       {about::kTitle, u"About Mivo"},
       {about::kVersion, u"Mivo Version "},
@@ -264,14 +281,21 @@ constexpr bool kAscending = std::is_sorted(
 static_assert(kAscending, "the search relies on ascending ids without repetition");
 
 constexpr auto kIds = [] {
-  std::array<TextId, kTexts.size()> ids{};
-  std::transform(kTexts.begin(), kTexts.end(), ids.begin(), [](const Entry& e) { return e.id; });
+  std::array<TextId, kTexts.size() + kFindingKinds> ids{};
+  auto out = ids.begin();
+  for (const Entry& entry : kTexts) *out++ = entry.id;
+  for (std::int32_t kind = 0; kind < kFindingKinds; ++kind) *out++ = {TextKind::Finding, kind};
   return ids;
 }();
+static_assert(std::is_sorted(kIds.begin(), kIds.end()));
 
 }  // namespace
 
 std::u16string_view BuiltInText(TextId id) noexcept {
+  // The readers' own words stand beside the readers.
+  if (id.kind == TextKind::Finding) {
+    return id.control == 0 ? MessageOf(static_cast<FindingKind>(id.number)) : std::u16string_view();
+  }
   const auto found =
       std::lower_bound(kTexts.begin(), kTexts.end(), id,
                        [](const Entry& entry, const TextId& wanted) { return entry.id < wanted; });
@@ -283,7 +307,7 @@ std::span<const TextId> AllTextIds() noexcept {
 }
 
 bool TextTable::Translate(Translation translation) {
-  const TextId version{TextKind::String, static_cast<std::int32_t>(StringId::Version)};
+  constexpr TextId version = IdOf(StringId::Version);
   if (!translation || translation(version) != BuiltInText(version)) return false;
   translation_ = std::move(translation);
   return true;
@@ -296,19 +320,19 @@ std::u16string TextTable::Text(TextId id) const {
 }
 
 std::u16string TextTable::Text(StringId id) const {
-  return Text(TextId{TextKind::String, static_cast<std::int32_t>(id)});
+  return Text(IdOf(id));
 }
 
 std::u16string TextTable::Text(Command command) const {
-  return Text(TextId{TextKind::Command, static_cast<std::int32_t>(command)});
+  return Text(IdOf(command));
 }
 
 std::u16string TextTable::Hint(Command command) const {
-  return Text(TextId{TextKind::Hint, static_cast<std::int32_t>(command)});
+  return Text(HintIdOf(command));
 }
 
 std::u16string TextTable::Text(MenuId menu) const {
-  return Text(TextId{TextKind::Menu, static_cast<std::int32_t>(menu)});
+  return Text(IdOf(menu));
 }
 
 }  // namespace mivo

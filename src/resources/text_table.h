@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "command.h"
+#include "finding.h"
 
 namespace mivo {
 
@@ -18,6 +19,7 @@ enum class TextKind : std::int32_t {
   Hint = 2,     ///< tool tip and status text of a command; `number` is a Command
   Menu = 3,     ///< title of a menu; `number` is a MenuId
   Dialog = 4,   ///< text of a dialog's control; `number` is the dialog's
+  Finding = 5,  ///< what reading a file found fault with; `number` is a FindingKind
 };
 
 /// Names one text of the program.
@@ -60,9 +62,47 @@ enum class StringId : std::int32_t {
   HintArcEnd,
   HintPlaceText,
   HintNoPattern,
+
+  // What the window and its parts are called. The key indicators are as short as can be.
+  ToolBarName = 300,
+  NameListName,
+  NoteName,
+  ViewName,
+  CapsLock,
+  NumLock,
+  ScrollLock,
+
+  // Files.
+  LibraryFilter = 320,
+  SchematicFilter,
+  Untitled,     ///< file name proposed for a library that has none
+  LoadFinding,  ///< "%d" stands for the line, "%s" for what was found there
+
+  // The command line's help.
+  Purpose = 340,
+  FileArgument,  ///< what stands for the file's name
+  FileHelp,
+
+  LanguageCode = 350,  ///< of ISO 639: what language the toolkit's own dialogs shall speak
 };
 
 enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };
+
+[[nodiscard]] constexpr TextId IdOf(StringId id) noexcept {
+  return {TextKind::String, static_cast<std::int32_t>(id)};
+}
+[[nodiscard]] constexpr TextId IdOf(Command command) noexcept {
+  return {TextKind::Command, static_cast<std::int32_t>(command)};
+}
+[[nodiscard]] constexpr TextId HintIdOf(Command command) noexcept {
+  return {TextKind::Hint, static_cast<std::int32_t>(command)};
+}
+[[nodiscard]] constexpr TextId IdOf(MenuId menu) noexcept {
+  return {TextKind::Menu, static_cast<std::int32_t>(menu)};
+}
+[[nodiscard]] constexpr TextId IdOf(FindingKind kind) noexcept {
+  return {TextKind::Finding, static_cast<std::int32_t>(kind)};
+}
 
 /// The program's own text; empty for an id that does not exist. Any thread, never changes.
 [[nodiscard]] std::u16string_view BuiltInText(TextId id) noexcept;

@@ -127,7 +127,7 @@ TEST(LibraryFindings, AreOfAllKinds) {
     const auto kind = static_cast<FindingKind>(i);
     if (kind == FindingKind::NotALibrary) continue;
     EXPECT_TRUE(std::ranges::any_of(kCases, [=](const auto& row) { return row.kind == kind; }))
-        << MessageOf(kind);
+        << Utf16ToUtf8(MessageOf(kind));
   }
 }
 

@@ -3,21 +3,26 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string>
+
+#include "text_encoding.h"
 
 namespace mivo {
 namespace {
 
-constexpr FindingKind kFirst = FindingKind::FieldWithoutValue;
-constexpr FindingKind kLast = FindingKind::BitPatternsTooLarge;
-
 TEST(FindingMessage, IsOneSentencePerKind) {
-  std::set<std::string_view> messages;
-  for (int kind = static_cast<int>(kFirst); kind <= static_cast<int>(kLast); ++kind) {
-    const std::string_view message = MessageOf(static_cast<FindingKind>(kind));
+  std::set<std::string> messages;
+  for (std::int32_t kind = 0; kind < kFindingKinds; ++kind) {
+    const std::string message = Utf16ToUtf8(MessageOf(static_cast<FindingKind>(kind)));
     ASSERT_FALSE(message.empty()) << kind;
     EXPECT_NE(message.back(), '.') << message;
     EXPECT_TRUE(messages.insert(message).second) << message;
   }
+}
+
+TEST(FindingMessage, IsEmptyForANumberThatIsNoKind) {
+  EXPECT_TRUE(MessageOf(static_cast<FindingKind>(kFindingKinds)).empty());
+  EXPECT_TRUE(MessageOf(static_cast<FindingKind>(-1)).empty());
 }
 
 TEST(FindingSeverity, IsErrorForWhatFailsTheRead) {
@@ -25,7 +30,7 @@ TEST(FindingSeverity, IsErrorForWhatFailsTheRead) {
        {FindingKind::NotALibrary, FindingKind::UnclosedRecord, FindingKind::WrongClosingTag,
         FindingKind::IncompleteRecord, FindingKind::InvalidValue, FindingKind::PinBeforeSize,
         FindingKind::MalformedBitPattern, FindingKind::BitPatternsTooLarge}) {
-    EXPECT_EQ(SeverityOf(kind), Severity::Error) << MessageOf(kind);
+    EXPECT_EQ(SeverityOf(kind), Severity::Error) << Utf16ToUtf8(MessageOf(kind));
   }
 }
 
@@ -34,7 +39,7 @@ TEST(FindingSeverity, IsWarningForWhatTheReadSurvives) {
        {FindingKind::FieldWithoutValue, FindingKind::MalformedEscape, FindingKind::ObjectDropped,
         FindingKind::PatternUnused, FindingKind::DataCutOff, FindingKind::NameChanged,
         FindingKind::NotCanonical}) {
-    EXPECT_EQ(SeverityOf(kind), Severity::Warning) << MessageOf(kind);
+    EXPECT_EQ(SeverityOf(kind), Severity::Warning) << Utf16ToUtf8(MessageOf(kind));
   }
 }
 

@@ -35,7 +35,7 @@ class Findings final : public FindingSink {
  public:
   void Report(const Finding& finding) override {
     reports.push_back("line " + std::to_string(finding.line) + ": " +
-                      std::string(MessageOf(finding.kind)) + ": " + Utf16ToUtf8(finding.text));
+                      Utf16ToUtf8(MessageOf(finding.kind)) + ": " + Utf16ToUtf8(finding.text));
   }
   std::vector<std::string> reports;
 };
@@ -238,7 +238,7 @@ TEST(Schematic, YieldsTheComponentsOfAllItsBlocks) {
   const Sample sample(kSchematic);
 
   EXPECT_THAT(sample.findings.reports,
-              testing::Each(testing::HasSubstr(std::string(MessageOf(FindingKind::NameChanged)))));
+              testing::Each(testing::HasSubstr(Utf16ToUtf8(MessageOf(FindingKind::NameChanged)))));
   EXPECT_THAT(Names(sample.library), ElementsAre("NE555", "R", "R(1)", "C_POL", "C", "R(2)", "LED",
                                                  "VCC", "GND", "GND(1)"));
   EXPECT_EQ(sample.Component(u"R(2)").prefix, u"R");

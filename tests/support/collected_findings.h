@@ -26,7 +26,7 @@ class CollectedFindings final : public FindingSink {
 // Found by GoogleTest for failed expectations.
 
 inline void PrintTo(FindingKind kind, std::ostream* out) {
-  *out << '"' << MessageOf(kind) << '"';
+  *out << '"' << Utf16ToUtf8(MessageOf(kind)) << '"';
 }
 
 inline void PrintTo(const Finding& finding, std::ostream* out) {

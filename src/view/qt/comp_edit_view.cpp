@@ -66,7 +66,6 @@ void ShowBar(QScrollBar& bar, const ScrollBar& state, int line) {
 CCompEditView::CCompEditView(PropertyPrompts& prompts, QWidget* parent)
     : QAbstractScrollArea(parent), editor_({*this, prompts, clipboard_, surfaces_, commonFont_}) {
   setObjectName(QStringLiteral("componentView"));
-  setAccessibleName(tr("Drawing of the component"));
   setFocusPolicy(Qt::StrongFocus);
   // The menu opens when the button is released, unless the mouse panned; the editor decides.
   setContextMenuPolicy(Qt::NoContextMenu);
