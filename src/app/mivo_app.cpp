@@ -4,10 +4,13 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QStandardPaths>
 #include <algorithm>
 #include <limits>
 
+#include "language_library.h"
 #include "main_frame.h"
 #include "path_text.h"
 #include "qt_text.h"
@@ -39,20 +42,26 @@ std::int32_t InitialLength(std::int32_t stored, std::int32_t smallest, std::int3
 
 }  // namespace
 
-CMivoApp::CMivoApp() : settings_(ChooseSettingsFile(FindSettingsFolders())) {}
+CMivoApp::CMivoApp() : CMivoApp(FindSettingsFolders()) {}
+
+CMivoApp::CMivoApp(const SettingsFolders& folders)
+    : settings_(ChooseSettingsFile(folders)),
+      languageLibrary_(folders.executable / kLanguageLibraryName) {}
 
 CMivoApp::~CMivoApp() = default;
 
-void CMivoApp::InitInstance() {
+void CMivoApp::InitInstance(const QStringList& arguments) {
+  if (texts_.Translate(LoadLanguageLibrary(languageLibrary_))) TranslateToolkit();
+
   QCoreApplication::setApplicationVersion(ToQString(texts_.Text(StringId::Version)));
   QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral("Editor of schematic component libraries"));
+  parser.setApplicationDescription(ToQString(texts_.Text(StringId::Purpose)));
   parser.addHelpOption();
   parser.addVersionOption();
-  parser.addPositionalArgument(QStringLiteral("file"),
-                               QStringLiteral("library or schematic to open"),
-                               QStringLiteral("[file]"));
-  parser.process(*QCoreApplication::instance());
+  const QString fileName = ToQString(texts_.Text(StringId::FileArgument));
+  parser.addPositionalArgument(fileName, ToQString(texts_.Text(StringId::FileHelp)),
+                               QLatin1Char('[') + fileName + QLatin1Char(']'));
+  parser.process(arguments);
 
   frame_ = std::make_unique<CMainFrame>(settings_, texts_);
   ShowFrame();
@@ -61,6 +70,14 @@ void CMivoApp::InitInstance() {
   frame_->Open(QFileInfo(file).absoluteFilePath());
   if (QFileInfo(file).suffix().compare(QLatin1String("tmp"), Qt::CaseInsensitive) == 0) {
     frame_->SetTemporaryFileMode();
+  }
+}
+
+void CMivoApp::TranslateToolkit() {
+  const QLocale language(ToQString(texts_.Text(StringId::LanguageCode)));
+  if (toolkitTexts_.load(language, QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&toolkitTexts_);
   }
 }
 

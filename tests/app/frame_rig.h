@@ -10,6 +10,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "comp_edit_view.h"
@@ -78,7 +79,10 @@ class ScriptedPrompts final : public FramePrompts {
 /// A main frame with settings and files of its own.
 class FrameTest : public testing::Test {
  protected:
-  FrameTest() : settings_(folder_.Put("MIVO.INI", "\xFF\xFE")) { Restart(); }
+  explicit FrameTest(TextTable texts = TextTable())
+      : settings_(folder_.Put("MIVO.INI", "\xFF\xFE")), texts_(std::move(texts)) {
+    Restart();
+  }
 
   /// A new frame over the same settings.
   void Restart() {

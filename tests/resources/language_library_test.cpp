@@ -1,0 +1,121 @@
+#include "language_library.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+
+#include "mivo_language.h"
+#include "temp_folder.h"
+
+namespace mivo {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path LibraryPath(const char* name) {
+  return fs::path(MIVO_TEST_LANGUAGES) / name / kLanguageLibraryName;
+}
+
+/// The program's texts with the language library `name`.
+TextTable TextsWith(const char* name) {
+  TextTable texts;
+  EXPECT_TRUE(texts.Translate(LoadLanguageLibrary(LibraryPath(name))));
+  return texts;
+}
+
+TEST(LanguageLibrary, GivesItsTexts) {
+  const TextTable texts = TextsWith("good");
+  EXPECT_EQ(texts.Text(StringId::SaveChanges), u"Änderungen speichern?\n📚");
+  EXPECT_EQ(texts.Text(Command::Open), u"command");
+  EXPECT_EQ(texts.Hint(Command::Open), u"hint");
+}
+
+TEST(LanguageLibrary, HandsOnTheNumberOfTheControl) {
+  const TextTable::Translation translation = LoadLanguageLibrary(LibraryPath("good"));
+  ASSERT_TRUE(translation);
+  EXPECT_EQ(translation({static_cast<TextKind>(4), 144, 1015}), u"control");
+  EXPECT_EQ(translation({static_cast<TextKind>(4), 144, 1016}), u"");
+}
+
+TEST(LanguageLibrary, TextThatItLacksIsTheProgramsOwn) {
+  const TextTable texts = TextsWith("good");
+  EXPECT_EQ(texts.Text(StringId::CannotUndo), u"You can't undo this command.\nContinue?");
+  EXPECT_EQ(texts.Text(Command::Save), u"&Save\tCtrl+S");
+}
+
+TEST(LanguageLibrary, EmptyTextCountsAsMissing) {
+  EXPECT_EQ(TextsWith("good").Text(StringId::SizeRange), u"Size must be 1~255.");
+}
+
+TEST(LanguageLibrary, TextThatIsNotUtf8CountsAsMissing) {
+  EXPECT_EQ(TextsWith("good").Text(StringId::SaveFailed),
+            u"Cannnot save the document. Try saving as.");
+}
+
+TEST(LanguageLibrary, TextWithoutAnEndCountsAsMissing) {
+  const TextTable texts = TextsWith("good");
+  EXPECT_EQ(texts.Text(StringId::BlocksRange), u"Blocks must be 1~255.");
+  EXPECT_EQ(texts.Text(StringId::FixedBlockRange),
+            std::u16string(MIVO_LANGUAGE_MAX_BYTES - 1, u'x'));
+}
+
+TEST(LanguageLibrary, OfAnotherVersionIsLoadedButNotUsed) {
+  const TextTable::Translation translation = LoadLanguageLibrary(LibraryPath("other_version"));
+  ASSERT_TRUE(translation);
+  TextTable texts;
+  EXPECT_FALSE(texts.Translate(translation));
+  EXPECT_EQ(texts.Text(StringId::SaveChanges), u"Save changes?");
+  EXPECT_EQ(translation(IdOf(Command::Open)), u"command") << "it stays loaded";
+}
+
+TEST(LanguageLibrary, WithoutTheFunctionIsIgnored) {
+  ASSERT_TRUE(fs::exists(LibraryPath("without_function")));
+  EXPECT_FALSE(LoadLanguageLibrary(LibraryPath("without_function")));
+}
+
+TEST(LanguageLibrary, MissingIsIgnored) {
+  const TempFolder folder;
+  EXPECT_FALSE(LoadLanguageLibrary(folder / kLanguageLibraryName));
+}
+
+class NoLanguageLibrary : public testing::TestWithParam<std::string> {};
+
+TEST_P(NoLanguageLibrary, IsIgnored) {
+  const TempFolder folder;
+  EXPECT_FALSE(LoadLanguageLibrary(folder.Put(kLanguageLibraryName, GetParam())));
+}
+
+INSTANTIATE_TEST_SUITE_P(Contents, NoLanguageLibrary,
+                         testing::Values(std::string(), std::string("This is a text."),
+                                         std::string(10000, '\0'), std::string("MZ\x90\0", 4)));
+
+TEST(LanguageLibrary, CutOffInItsHeaderIsIgnored) {
+  const TempFolder folder;
+  const std::string whole = BytesOf(LibraryPath("good"));
+  ASSERT_GT(whole.size(), 1000u);
+  for (const std::size_t size : {1u, 4u, 16u, 63u, 64u, 65u, 200u}) {
+    const fs::path cut = folder.Put(kLanguageLibraryName, whole.substr(0, size));
+    EXPECT_FALSE(LoadLanguageLibrary(cut)) << size;
+  }
+}
+
+TEST(LanguageLibrary, FolderOrPipeOfThatNameIsIgnored) {
+  const TempFolder folder;
+  const fs::path path = folder / kLanguageLibraryName;
+  fs::create_directory(path);
+  EXPECT_FALSE(LoadLanguageLibrary(path));
+  fs::remove(path);
+  ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+  EXPECT_FALSE(LoadLanguageLibrary(path)) << "and nobody waits for its other end";
+}
+
+TEST(LanguageLibrary, PathThatDependsOnTheCurrentFolderIsIgnored) {
+  const fs::path relative = fs::relative(LibraryPath("good"));
+  ASSERT_TRUE(fs::exists(relative));
+  EXPECT_FALSE(LoadLanguageLibrary(relative));
+}
+
+}  // namespace
+}  // namespace mivo
