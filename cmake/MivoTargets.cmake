@@ -51,6 +51,8 @@ function(mivo_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINK} mivo_test_support mivo_build_flags GTest::gmock
                                         GTest::gtest_main)
+  # A test is compiled far longer than it runs.
+  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   gtest_discover_tests(
     ${name}
