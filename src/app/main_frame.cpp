@@ -27,6 +27,8 @@
 #include "pin_props.h"
 #include "qt_text.h"
 #include "schematic_data.h"
+#include "start_label.h"
+#include "status_pane.h"
 
 namespace mivo {
 namespace {
@@ -49,7 +51,9 @@ CMainFrame::CMainFrame(SettingsFile& settings, const TextTable& texts)
       prompts_(std::make_unique<DialogPrompts>(*this, texts)),
       propertyPrompts_(texts, labelFont_, *this),
       actions_(new CommandActions(texts, this)),
-      view_(new CCompEditView(propertyPrompts_, this)) {
+      view_(new CCompEditView(propertyPrompts_, this)),
+      startLabel_(new StartLabel(texts, *view_->viewport())),
+      status_(new StatusPane(texts, this)) {
   setWindowIcon(ProgramIcon());
   setAcceptDrops(true);
   CreateParts();
@@ -84,9 +88,7 @@ void CMainFrame::CreateParts() {
   toolBar->setMovable(false);
   actions_->FillToolBar(*toolBar);
 
-  statusText_ = new QLabel(this);
-  statusText_->setObjectName(QStringLiteral("statusText"));
-  statusBar()->addWidget(statusText_, 1);
+  statusBar()->addWidget(status_, 1);
   for (const StringId key : {StringId::CapsLock, StringId::NumLock, StringId::ScrollLock}) {
     auto* const indicator = new QLabel(ToQString(texts_.Text(key)), this);
     indicator->setEnabled(false);
@@ -298,18 +300,12 @@ void CMainFrame::UpdateActions() {
 void CMainFrame::UpdateStatus() {
   const CompEditor& editor = view_->Editor();
   const std::optional<StringId> hint = editor.Hint();
-  QStringList parts{loadNote_.isEmpty() && hint ? ToQString(texts_.Text(*hint)) : loadNote_};
-  if (editor.Component() != nullptr) {
-    if (const std::optional<SPoint> point = view_->MousePoint()) {
-      parts += QStringLiteral("%1, %2")
-                   .arg(point->x / double{kUnitsPerCell}, 0, 'f', 1)
-                   .arg(point->y / double{kUnitsPerCell}, 0, 'f', 1);
-    }
-    parts += QStringLiteral("\u00D7%1").arg(editor.Coordinates().Scale().factor);
-    parts +=
-        QStringLiteral("%1 / %2").arg(Names().SelectedRow() + 1).arg(Names().Names().rowCount());
-  }
-  statusText_->setText(parts.join(QStringLiteral("   |   ")));
+  const bool hasComponent = editor.Component() != nullptr;
+  status_->SetHint(ToQString(texts_.Text(hint.value_or(StringId::StartTitle))));
+  status_->SetPlace(hasComponent ? view_->MousePoint() : std::nullopt);
+  status_->SetZoom(hasComponent ? std::optional(editor.Coordinates().Scale().factor)
+                                : std::nullopt);
+  status_->SetNames(Names().SelectedRow(), Names().Names().rowCount());
 }
 
 void CMainFrame::MoveFocus(int direction) {
@@ -334,6 +330,13 @@ void CMainFrame::ShowTitle() {
 void CMainFrame::SetTemporaryFileMode() {
   temporaryFileMode_ = true;
   UpdateActions();
+}
+
+bool CMainFrame::event(QEvent* event) {
+  if (event->type() != QEvent::StatusTip) return QMainWindow::event(event);
+  // The status bar's own way would hide everything else it shows.
+  status_->ShowTip(static_cast<const QStatusTipEvent*>(event)->tip());
+  return true;
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {

@@ -11,8 +11,6 @@
 #include "settings_file.h"
 #include "text_table.h"
 
-class QLabel;
-
 namespace mivo {
 
 class CCompEditView;
@@ -20,6 +18,8 @@ class CPinProps;
 class CommandActions;
 class NamePane;
 class SLBCompName;
+class StartLabel;
+class StatusPane;
 
 /// The program's window. Owns the open library; the list on the left chooses the component that the
 /// view edits. The order of the list is the order in which the library is written.
@@ -49,6 +49,7 @@ class CMainFrame final : public QMainWindow {
   [[nodiscard]] QAction* Action(Command command) const;
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -102,14 +103,14 @@ class CMainFrame final : public QMainWindow {
   bool modified_ = false;
   bool temporaryFileMode_ = false;
   SCompEditDoc::FarObjects farObjects_ = SCompEditDoc::FarObjects::Keep;
-  QString loadNote_;
 
   SCommonFont labelFont_;
   PropertyDialogs propertyPrompts_;
   CommandActions* actions_;
   CCompEditView* view_;
   NamePane* pane_ = nullptr;
-  QLabel* statusText_ = nullptr;
+  StartLabel* startLabel_;
+  StatusPane* status_;
   std::unique_ptr<CPinProps> pinProps_;  ///< null until it was shown for the first time
 };
 

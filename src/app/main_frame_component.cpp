@@ -9,6 +9,7 @@
 #include "main_frame.h"
 #include "name_pane.h"
 #include "schematic_data.h"
+#include "start_label.h"
 
 namespace mivo {
 
@@ -20,6 +21,7 @@ void CMainFrame::CommitEdit() {
 void CMainFrame::HandToView(NameEntry* entry) {
   SComponent* const component = entry != nullptr ? entry->Component() : nullptr;
   view_->Editor().SetComponent(component);
+  startLabel_->setVisible(component == nullptr);
   pane_->ShowNote(component != nullptr ? QString::fromStdU16String(component->note) : QString());
 }
 

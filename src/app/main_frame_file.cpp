@@ -12,6 +12,7 @@
 #include "path_text.h"
 #include "qt_text.h"
 #include "read_file.h"
+#include "status_pane.h"
 
 namespace mivo {
 namespace {
@@ -39,9 +40,10 @@ void CMainFrame::New() {
   Names().Names().SetEntries({});
   doc_.Clear();
   modified_ = false;
-  loadNote_.clear();
+  status_->ShowNote(QString());
   ShowTitle();
   UpdateActions();
+  UpdateStatus();
 }
 
 void CMainFrame::AskOpen() {
@@ -58,21 +60,23 @@ void CMainFrame::Open(const QString& path) {
 
   const std::u16string pathText = path.toStdU16String();
   const FileResult<std::string> content = ReadFile(PathFromText(pathText));
+  QString note;
   bool isLaterVersion = false;
   if (content.Ok()) {
-    LoadNote note;
+    LoadNote findings;
     // What was read before a fault stays, without a path.
-    static_cast<void>(doc_.Load(content.Value(), pathText, &note));
-    loadNote_ = note.Text(texts_);
+    static_cast<void>(doc_.Load(content.Value(), pathText, &findings));
+    note = findings.Text(texts_);
     isLaterVersion = doc_.Version() > SMivoDoc::kVersion;
   } else {
-    loadNote_ =
+    note =
         QFileInfo(path).fileName() + QStringLiteral(": ") + QString::fromStdString(content.Error());
   }
   if (isLaterVersion) prompts_->Warn(StringId::LaterVersion);
   ShowTitle();
   RefillNames();
   UpdateStatus();
+  status_->ShowNote(note);
 }
 
 void CMainFrame::RefillNames() {
@@ -108,14 +112,13 @@ bool CMainFrame::WriteTo(const QString& path) {
   const std::u16string pathText = path.toStdU16String();
   FileWriter file(PathFromText(pathText));
   if (!doc_.Write(file, Names().Names().Entries()) || !file.Commit()) {
-    loadNote_ = QString::fromStdString(file.ErrorText());
-    UpdateStatus();
+    status_->ShowNote(QString::fromStdString(file.ErrorText()));
     prompts_->Warn(StringId::SaveFailed);
     return false;
   }
   doc_.SetPath(pathText);
   modified_ = false;
-  loadNote_.clear();
+  status_->ShowNote(QString());
   ShowTitle();
   UpdateActions();
   return true;

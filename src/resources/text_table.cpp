@@ -77,6 +77,17 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::FileArgument, u"file"),
     Message(StringId::FileHelp, u"library or schematic to open"),
     Message(StringId::LanguageCode, u"en"),
+    Message(StringId::StartTitle, u"No component is open"),
+    Message(StringId::StartSteps,
+            u"Open a library or a schematic: Ctrl+O\n"
+            u"Start a new one: Component > New component...\n"
+            u"Or drop a file here."),
+    Message(StringId::PlaceName, u"Position of the pointer in grid cells"),
+    Message(StringId::ZoomName, u"Zoom"),
+    Message(StringId::NamesName, u"Selected name and number of names"),
+    Message(StringId::ProgressName, u"Progress"),
+    Message(StringId::Opening, u"Opening %s"),
+    Message(StringId::Saving, u"Saving %s"),
 });
 
 constexpr auto kCommands = std::to_array<Entry>({

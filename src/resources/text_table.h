@@ -84,6 +84,18 @@ enum class StringId : std::int32_t {
   FileHelp,
 
   LanguageCode = 350,  ///< of ISO 639: what language the toolkit's own dialogs shall speak
+
+  // Over the empty view.
+  StartTitle = 360,
+  StartSteps,  ///< one way to go on per line
+
+  // What the numbers of the status bar are, and what takes long; "%s" stands for the file.
+  PlaceName = 370,
+  ZoomName,
+  NamesName,
+  ProgressName,
+  Opening,
+  Saving,
 };
 
 enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };

@@ -105,8 +105,9 @@ class FrameTest : public testing::Test {
 
   void Trigger(Command command) { frame_->Action(command)->trigger(); }
   [[nodiscard]] bool IsEnabled(Command command) { return frame_->Action(command)->isEnabled(); }
-  [[nodiscard]] std::string StatusText() {
-    return frame_->findChild<QLabel*>(QStringLiteral("statusText"))->text().toStdString();
+  /// The words of the status bar, or one of the numbers beside them.
+  [[nodiscard]] std::string StatusText(const char* field = "statusText") {
+    return frame_->findChild<QLabel*>(QLatin1String(field))->text().toStdString();
   }
   [[nodiscard]] std::string NoteText() {
     return frame_->findChild<QPlainTextEdit*>(QStringLiteral("noteBox"))

@@ -70,6 +70,19 @@ constexpr TranslatedText kTexts[] = {
 
     {IdOf(StringId::LanguageCode), "de"},
 
+    // The empty view and the status bar
+    {IdOf(StringId::StartTitle), "Es ist kein Bauteil geöffnet"},
+    {IdOf(StringId::StartSteps),
+     "Bibliothek oder Schaltplan öffnen: Strg+O\n"
+     "Neu beginnen: Bauteil > Neues Bauteil...\n"
+     "Oder eine Datei hierher ziehen."},
+    {IdOf(StringId::PlaceName), "Position des Mauszeigers in Rasterzellen"},
+    {IdOf(StringId::ZoomName), "Vergrößerung"},
+    {IdOf(StringId::NamesName), "Ausgewählter Name und Anzahl der Namen"},
+    {IdOf(StringId::ProgressName), "Fortschritt"},
+    {IdOf(StringId::Opening), "%s wird geöffnet"},
+    {IdOf(StringId::Saving), "%s wird gespeichert"},
+
     // Commands
     {IdOf(Command::MoveNameUp), "Nach oben"},
     {IdOf(Command::MoveNameDown), "Nach unten"},
