@@ -30,7 +30,8 @@ class NativeFile {
   /// Never waits, not even for the other end of a pipe.
   [[nodiscard]] static std::error_code OpenToRead(const std::filesystem::path& path,
                                                   NativeFile& file);
-  /// Opens what exists, of whatever kind, and leaves its content alone.
+  /// Opens what exists, of whatever kind, and leaves its content alone. Writing starts at the
+  /// front.
   [[nodiscard]] static std::error_code OpenToWrite(const std::filesystem::path& path,
                                                    NativeFile& file);
   /// Creates a file for writing; fails with std::errc::file_exists when there is anything by that
@@ -46,17 +47,29 @@ class NativeFile {
   [[nodiscard]] Kind GetKind() const noexcept;
   /// Bytes that the file seems to hold; 0 when that is not known.
   [[nodiscard]] std::size_t SizeHint() const noexcept;
+  /// Names that the file has in its file system: 0 once it is removed, 1 when that is not known.
+  [[nodiscard]] std::uint64_t LinkCount() const noexcept;
 
   /// Fills the front of `into`; `got` is 0 at the end of the data.
   [[nodiscard]] std::error_code Read(std::span<char> into, std::size_t& got) noexcept;
   /// Writes all of `bytes`.
   [[nodiscard]] std::error_code Write(std::string_view bytes) noexcept;
+  /// The next write goes to the front again.
+  [[nodiscard]] std::error_code Rewind() noexcept;
+  /// Cuts the file off behind `size` bytes, or fills it up with zeros.
+  [[nodiscard]] std::error_code SetSize(std::uint64_t size) noexcept;
   /// Returns once the content is on the disk.
   [[nodiscard]] std::error_code Flush() noexcept;
   [[nodiscard]] std::error_code Close() noexcept;
 
-  /// Gives this file the owner and the permissions of `other`, as far as the system lets us.
-  void TakeAccessFrom(const NativeFile& other) noexcept;
+  /// Gives this file the owner and the permissions of `other`, as far as the system lets us; an
+  /// error when owner or group could not be kept.
+  [[nodiscard]] std::error_code TakeAccessFrom(const NativeFile& other) noexcept;
+
+  enum class Lock { Taken, HeldElsewhere, Impossible };
+  /// Takes the lock that one open file of all processes can have, without waiting; it goes with the
+  /// file, however its process ends. Not every file system knows such locks.
+  [[nodiscard]] Lock TryLock() noexcept;
 
  private:
   static constexpr std::intptr_t kNone = -1;

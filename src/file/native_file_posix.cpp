@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
@@ -37,9 +38,6 @@ std::error_code Open(const std::filesystem::path& path, int flags, mode_t mode,
   handle = descriptor;
   return {};
 }
-
-/// Makes the entry of a renamed file last. Nothing depends on its success: the content is safe
-/// already, and a folder that may not be read cannot be flushed.
 
 }  // namespace
 
@@ -99,6 +97,11 @@ std::size_t NativeFile::SizeHint() const noexcept {
   return static_cast<std::size_t>(status.st_size);
 }
 
+std::uint64_t NativeFile::LinkCount() const noexcept {
+  struct stat status;
+  return fstat(Descriptor(handle_), &status) == 0 ? status.st_nlink : 1;
+}
+
 std::error_code NativeFile::Read(std::span<char> into, std::size_t& got) noexcept {
   ssize_t count;
   do {
@@ -120,6 +123,18 @@ std::error_code NativeFile::Write(std::string_view bytes) noexcept {
   return {};
 }
 
+std::error_code NativeFile::Rewind() noexcept {
+  return lseek(Descriptor(handle_), 0, SEEK_SET) == 0 ? std::error_code() : LastError();
+}
+
+std::error_code NativeFile::SetSize(std::uint64_t size) noexcept {
+  int result;
+  do {
+    result = ftruncate(Descriptor(handle_), static_cast<off_t>(size));
+  } while (result != 0 && errno == EINTR);
+  return result == 0 ? std::error_code() : LastError();
+}
+
 std::error_code NativeFile::Flush() noexcept {
   int result;
   do {
@@ -138,16 +153,24 @@ std::error_code NativeFile::Close() noexcept {
   return {};
 }
 
-void NativeFile::TakeAccessFrom(const NativeFile& other) noexcept {
+std::error_code NativeFile::TakeAccessFrom(const NativeFile& other) noexcept {
   struct stat status;
-  if (fstat(Descriptor(other.handle_), &status) != 0) return;
+  if (fstat(Descriptor(other.handle_), &status) != 0) return LastError();
   const int descriptor = Descriptor(handle_);
+  std::error_code error;
   // Only a privileged process can give a file away; the group alone may still be possible.
   if (fchown(descriptor, status.st_uid, status.st_gid) != 0) {
+    error = LastError();
     static_cast<void>(fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) == 0);
   }
   // Last, since a change of owner takes permissions away.
   static_cast<void>(fchmod(descriptor, status.st_mode & 0777) == 0);
+  return error;
+}
+
+NativeFile::Lock NativeFile::TryLock() noexcept {
+  if (flock(Descriptor(handle_), LOCK_EX | LOCK_NB) == 0) return Lock::Taken;
+  return errno == EWOULDBLOCK ? Lock::HeldElsewhere : Lock::Impossible;
 }
 
 std::filesystem::path FinalTarget(const std::filesystem::path& path) {

@@ -96,6 +96,12 @@ std::size_t NativeFile::SizeHint() const noexcept {
   return static_cast<std::size_t>(size.QuadPart);
 }
 
+std::uint64_t NativeFile::LinkCount() const noexcept {
+  BY_HANDLE_FILE_INFORMATION information;
+  return GetFileInformationByHandle(ToHandle(handle_), &information) ? information.nNumberOfLinks
+                                                                     : 1;
+}
+
 std::error_code NativeFile::Read(std::span<char> into, std::size_t& got) noexcept {
   DWORD count = 0;
   const auto wanted = static_cast<DWORD>(std::min(into.size(), kMostAtOnce));
@@ -118,6 +124,21 @@ std::error_code NativeFile::Write(std::string_view bytes) noexcept {
   return {};
 }
 
+std::error_code NativeFile::Rewind() noexcept {
+  return SetFilePointerEx(ToHandle(handle_), {}, nullptr, FILE_BEGIN) ? std::error_code()
+                                                                      : LastError();
+}
+
+std::error_code NativeFile::SetSize(std::uint64_t size) noexcept {
+  LARGE_INTEGER end;
+  end.QuadPart = static_cast<LONGLONG>(size);
+  if (SetFilePointerEx(ToHandle(handle_), end, nullptr, FILE_BEGIN) &&
+      SetEndOfFile(ToHandle(handle_))) {
+    return {};
+  }
+  return LastError();
+}
+
 std::error_code NativeFile::Flush() noexcept {
   // Only files on a disk have anything to flush.
   if (GetKind() != Kind::Regular || FlushFileBuffers(ToHandle(handle_))) return {};
@@ -129,8 +150,20 @@ std::error_code NativeFile::Close() noexcept {
   return {};
 }
 
-void NativeFile::TakeAccessFrom(const NativeFile& /*other*/) noexcept {
+std::error_code NativeFile::TakeAccessFrom(const NativeFile& /*other*/) noexcept {
   // ReplaceFileW does it when the file is put in its place.
+  return {};
+}
+
+NativeFile::Lock NativeFile::TryLock() noexcept {
+  // A locked byte can be read by nobody else, so it is one that no file has.
+  OVERLAPPED place{};
+  place.OffsetHigh = 0x40000000;
+  constexpr DWORD kFlags = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
+  if (LockFileEx(ToHandle(handle_), kFlags, 0, 1, 0, &place)) return Lock::Taken;
+  const DWORD error = GetLastError();
+  return error == ERROR_LOCK_VIOLATION || error == ERROR_IO_PENDING ? Lock::HeldElsewhere
+                                                                    : Lock::Impossible;
 }
 
 std::filesystem::path FinalTarget(const std::filesystem::path& path) {
