@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "record_reader.h"
+
 namespace mivo {
 
 class SComponent;
@@ -35,13 +37,16 @@ class NameIndex {
  public:
   /// Attempts of UniqueName.
   static constexpr std::int32_t kMaxAttempts = 4096;
+  /// The longest name that fits into a record's field with its key "N:".
+  static constexpr std::size_t kMaxNumberedLength = SRecordReader::kMaxFieldLength - 2;
 
   /// The first entry with exactly this name; null when there is none.
   [[nodiscard]] NameEntry* Find(std::u16string_view name) const;
 
   /// `name` when no entry has it, otherwise the first free of name(1), name(2), … (counting on from
   /// a number in parentheses at its end). After kMaxAttempts the last candidate is returned as it
-  /// is, taken or not.
+  /// is, taken or not. A name to which no number can be added within kMaxNumberedLength code units
+  /// is shortened before its number, since a longer one would not load again.
   [[nodiscard]] std::u16string UniqueName(std::u16string_view name);
 
   /// Appends an entry; the name is taken as it is.
