@@ -119,7 +119,8 @@ NameEntry* SMivoDoc::AddComponent(std::unique_ptr<SComponent> component, std::u1
 }
 
 NameEntry* SMivoDoc::AddAlias(SComponent* component, std::u16string_view name) {
-  return names_.Add(names_.UniqueName(name), component);
+  NameEntry* const entry = names_.AddIfFree(name, component);
+  return entry != nullptr ? entry : names_.Add(names_.UniqueName(name), component);
 }
 
 void SMivoDoc::Rename(NameEntry& entry, std::u16string_view name) {

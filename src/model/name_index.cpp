@@ -84,6 +84,12 @@ std::int32_t NameIndex::FirstFree(std::u16string_view base, std::int32_t start) 
   return withinAttempts(number) ? number : WrapAdd(start, kMaxAttempts);
 }
 
+NameEntry* NameIndex::AddIfFree(std::u16string_view name, SComponent* component) {
+  auto entry = std::make_unique<NameEntry>(std::u16string(name), component);
+  if (!byName_.emplace(entry->name_, entry.get()).second) return nullptr;
+  return entries_.emplace_back(std::move(entry)).get();
+}
+
 NameEntry* NameIndex::Add(std::u16string name, SComponent* component) {
   NameEntry* const entry =
       entries_.emplace_back(std::make_unique<NameEntry>(std::move(name), component)).get();
