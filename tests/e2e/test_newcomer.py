@@ -2,10 +2,9 @@
 
 import subprocess
 
-from driver.drawing import Drawing
+from driver.drawing import LARGE, Drawing
 from driver.waiting import wait_until
 
-LARGE = "[WindowPosition]\nWidth=1500\nHeight=1100\n"
 NOTE = "Four bits.\nTransparent."
 RECORDS = """\
 +TARSL_LIB_V.1.0

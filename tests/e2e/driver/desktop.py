@@ -5,6 +5,7 @@ import subprocess
 from pathlib import Path
 
 import Xlib.display
+import Xlib.error
 from Xlib import X
 from Xlib.protocol import event
 
@@ -109,6 +110,24 @@ class Desktop:
         )
         window.send_event(message)
         self._display.sync()
+
+    def wait_popup_menu(self):
+        """Waits for a menu that belongs to no menu bar: the program does not list those among its controls."""
+
+        def is_open():
+            for window in self._display.screen().root.query_tree().children:
+                try:
+                    attributes = window.get_attributes()
+                except Xlib.error.BadWindow:
+                    continue
+                # Windows that the window manager keeps its hands off.
+                if attributes.override_redirect and attributes.map_state == X.IsViewable:
+                    kind = self._display.intern_atom("_NET_WM_WINDOW_TYPE")  # the window manager's own have none
+                    if window.get_full_property(kind, X.AnyPropertyType):
+                        return True
+            return False
+
+        wait_until(is_open, "a menu to open")
 
     def _window(self, title):
         root = self._display.screen().root

@@ -3,10 +3,12 @@
 import re
 
 from .control import Box
+from .user_input import WHEEL_DOWN, WHEEL_UP
 from .waiting import wait_for, wait_until
 
 MARGIN = 50  # around the body, in component units
 CELL = 10
+LARGE = "[WindowPosition]\nWidth=1500\nHeight=1100\n"  # settings with room for drawing
 
 
 class Drawing:
@@ -30,11 +32,15 @@ class Drawing:
         return int(re.search(r"×(\d+)", self._mivo.status)[1])
 
     def zoom_to(self, factor):
-        """Zooms with the keys, around a pointer in the middle."""
+        """Zooms with the wheel, around a pointer in the middle."""
         self._mivo.input.move(self.box.middle)
         steps = (1, 2, 5, 10)
         change = steps.index(factor) - steps.index(self.factor)
-        self._mivo.press(*["PageUp" if change > 0 else "PageDown"] * abs(change))
+        self._mivo.input.hold("Ctrl")
+        for _ in range(abs(change)):
+            self._mivo.input.button_down(WHEEL_UP if change > 0 else WHEEL_DOWN)
+            self._mivo.input.button_up(WHEEL_UP if change > 0 else WHEEL_DOWN)
+        self._mivo.input.let_go("Ctrl")
         wait_for(lambda: self.factor, factor, "the zoom")
 
     def place(self, x, y):
@@ -49,9 +55,16 @@ class Drawing:
 
     def point_at(self, x, y):
         """Moves the pointer, until the status bar says that it is there."""
-        self._mivo.input.move(self.place(x, y))
+        column, row = self.place(x, y)
         wanted = f"{x / CELL:.1f}, {y / CELL:.1f}"
-        wait_until(lambda: wanted in self._mivo.status, f"the pointer at {wanted}")
+
+        def is_there():
+            # A window that comes to lie under the pointer is not told where it is before it moves.
+            self._mivo.input.move((column + 1, row))
+            self._mivo.input.move((column, row))
+            return wanted in self._mivo.status
+
+        wait_until(is_there, f"the pointer at {wanted}")
 
     def click(self, x, y):
         self.point_at(x, y)
@@ -69,9 +82,9 @@ class Drawing:
         self._mivo.input.button_up()
 
     def leave(self):
-        """Takes the pointer out of the drawing."""
-        x, y, _, _ = self.box
-        self._mivo.input.move((x - 20, y - 20))
+        """Takes the pointer out of the drawing, to where there is nothing to tell."""
+        x, y, _, height = self.box
+        self._mivo.input.move((x + 300, y + height + 12))
         wait_until(lambda: not re.search(r"\d\.\d, ", self._mivo.status), "the pointer to have left")
 
     def picture(self):

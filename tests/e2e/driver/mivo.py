@@ -214,6 +214,11 @@ class Mivo:
         self.menu("File", "Exit")
         self.wait_end()
 
+    def quit_without_saving(self):
+        self.menu("File", "Exit")
+        self.message("Save changes?").click("No")
+        self.wait_end()
+
     def wait_end(self):
         wait_until(lambda: self.process.poll() is not None, "the program to end")
         assert self.process.returncode == 0, f"The program ended with {self.process.returncode}"
