@@ -134,7 +134,7 @@ void CMainFrame::CreateParts() {
   connect(
       qApp, &QGuiApplication::commitDataRequest, this,
       [this](QSessionManager& session) {
-        if (session.allowsInteraction() && !MayLeaveLibrary()) session.cancel();
+        if ((busy_ || session.allowsInteraction()) && !MayLeaveLibrary()) session.cancel();
       },
       Qt::DirectConnection);
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateActions);
@@ -192,6 +192,7 @@ void CMainFrame::EndGridEdit() {
 }
 
 void CMainFrame::Execute(Command command) {
+  if (busy_) return;
   EndGridEdit();
   switch (command) {
     case Command::New:
@@ -340,6 +341,7 @@ bool CMainFrame::event(QEvent* event) {
 }
 
 void CMainFrame::closeEvent(QCloseEvent* event) {
+  closeHeldBack_ = busy_;
   event->setAccepted(MayLeaveLibrary());
 }
 

@@ -9,6 +9,7 @@
 #include "mivo_doc.h"
 #include "property_dialogs.h"
 #include "settings_file.h"
+#include "task_progress.h"
 #include "text_table.h"
 
 namespace mivo {
@@ -16,6 +17,7 @@ namespace mivo {
 class CCompEditView;
 class CPinProps;
 class CommandActions;
+class FileWriter;
 class NamePane;
 class SLBCompName;
 class StartLabel;
@@ -33,6 +35,9 @@ class CMainFrame final : public QMainWindow {
 
   /// Replaces the questions to the user, for tests.
   void SetPrompts(std::unique_ptr<FramePrompts> prompts) { prompts_ = std::move(prompts); }
+
+  /// Replaces the clock that tells when a task takes long, for tests.
+  void SetClock(TaskProgress::Clock clock) { clock_ = std::move(clock); }
 
   /// Replaces the open library by the one in the file, without asking about changes. A file that
   /// cannot be read or understood leaves what was read of it without a path, so that it never
@@ -81,6 +86,17 @@ class CMainFrame final : public QMainWindow {
   [[nodiscard]] bool MayLeaveLibrary();
   void RefillNames();
 
+  // main_frame_task.cpp: what may take long
+  struct LoadOutcome {
+    QString note;  ///< what there is to tell about the file; usually nothing
+    bool isLaterVersion = false;
+  };
+  /// Fills the empty library.
+  LoadOutcome LoadFrom(const QString& path);
+  /// False when the file was not replaced. `path` is only shown.
+  bool WriteInto(FileWriter& file, const QString& path);
+  void EndTask();
+
   // main_frame_component.cpp: components and their names
   void CommitEdit();
   void ShowSelectedComponent();
@@ -103,6 +119,10 @@ class CMainFrame final : public QMainWindow {
   bool modified_ = false;
   bool temporaryFileMode_ = false;
   SCompEditDoc::FarObjects farObjects_ = SCompEditDoc::FarObjects::Keep;
+  TaskProgress::Clock clock_ = &std::chrono::steady_clock::now;
+  bool busy_ = false;               ///< the library is being read or written
+  bool closeHeldBack_ = false;      ///< the window was to be closed meanwhile
+  bool selectionHeldBack_ = false;  ///< another name was selected meanwhile
 
   SCommonFont labelFont_;
   PropertyDialogs propertyPrompts_;

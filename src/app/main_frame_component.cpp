@@ -26,6 +26,10 @@ void CMainFrame::HandToView(NameEntry* entry) {
 }
 
 void CMainFrame::ShowSelectedComponent() {
+  if (busy_) {
+    selectionHeldBack_ = true;
+    return;
+  }
   CommitEdit();
   HandToView(Names().SelectedEntry());
   UpdateActions();

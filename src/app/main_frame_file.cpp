@@ -6,12 +6,10 @@
 #include "comp_edit_view.h"
 #include "file_writer.h"
 #include "lb_comp_name.h"
-#include "load_note.h"
 #include "main_frame.h"
 #include "name_pane.h"
 #include "path_text.h"
 #include "qt_text.h"
-#include "read_file.h"
 #include "status_pane.h"
 
 namespace mivo {
@@ -53,30 +51,18 @@ void CMainFrame::AskOpen() {
 }
 
 void CMainFrame::Open(const QString& path) {
+  if (busy_) return;
   HandToView(nullptr);
   Names().Names().SetEntries({});
   doc_.Clear();
   modified_ = false;
 
-  const std::u16string pathText = path.toStdU16String();
-  const FileResult<std::string> content = ReadFile(PathFromText(pathText));
-  QString note;
-  bool isLaterVersion = false;
-  if (content.Ok()) {
-    LoadNote findings;
-    // What was read before a fault stays, without a path.
-    static_cast<void>(doc_.Load(content.Value(), pathText, &findings));
-    note = findings.Text(texts_);
-    isLaterVersion = doc_.Version() > SMivoDoc::kVersion;
-  } else {
-    note =
-        QFileInfo(path).fileName() + QStringLiteral(": ") + QString::fromStdString(content.Error());
-  }
-  if (isLaterVersion) prompts_->Warn(StringId::LaterVersion);
+  const LoadOutcome loaded = LoadFrom(path);
+  if (loaded.isLaterVersion) prompts_->Warn(StringId::LaterVersion);
   ShowTitle();
   RefillNames();
   UpdateStatus();
-  status_->ShowNote(note);
+  status_->ShowNote(loaded.note);
 }
 
 void CMainFrame::RefillNames() {
@@ -111,7 +97,7 @@ bool CMainFrame::WriteTo(const QString& path) {
   CommitEdit();
   const std::u16string pathText = path.toStdU16String();
   FileWriter file(PathFromText(pathText));
-  if (!doc_.Write(file, Names().Names().Entries()) || !file.Commit()) {
+  if (!WriteInto(file, path)) {
     status_->ShowNote(QString::fromStdString(file.ErrorText()));
     prompts_->Warn(StringId::SaveFailed);
     return false;
@@ -125,6 +111,7 @@ bool CMainFrame::WriteTo(const QString& path) {
 }
 
 bool CMainFrame::MayLeaveLibrary() {
+  if (busy_) return false;
   CommitEdit();
   if (!modified_) return true;
   switch (prompts_->AskSaveChanges()) {

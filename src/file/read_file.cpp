@@ -13,28 +13,33 @@ namespace mivo {
 namespace {
 
 constexpr std::size_t kLeastRoom = std::size_t{1} << 16;
+/// Read at once: so much takes no slow disk long.
+constexpr std::size_t kPiece = std::size_t{1} << 20;
 
 /// Reads until the end of the data; `expected` bytes are hoped for, more or fewer may come.
-std::error_code ReadAll(NativeFile& file, std::size_t expected, std::string& bytes) {
+std::error_code ReadAll(NativeFile& file, std::size_t expected, std::string& bytes,
+                        ProgressSink* progress) {
   std::size_t count = 0;
   // One byte more than expected, so that the end of an unchanged file shows without another round.
   bytes.resize(std::max(expected + 1, kLeastRoom));
   for (;;) {
     std::size_t got = 0;
-    if (const auto error = file.Read(std::span(bytes).subspan(count), got)) return error;
+    const std::size_t wanted = std::min(bytes.size() - count, kPiece);
+    if (const auto error = file.Read(std::span(bytes).subspan(count, wanted), got)) return error;
     if (got == 0) break;
     count += got;
+    if (progress != nullptr) progress->Advance(count, expected);
     if (count == bytes.size()) bytes.resize(bytes.size() * 2);
   }
   bytes.resize(count);
   return {};
 }
 
-FileResult<std::string> Read(NativeFile& file, std::size_t expected) {
+FileResult<std::string> Read(NativeFile& file, std::size_t expected, ProgressSink* progress) {
   std::error_code error;
   std::string bytes;
   try {
-    error = ReadAll(file, expected, bytes);
+    error = ReadAll(file, expected, bytes, progress);
   } catch (const std::bad_alloc&) {
     error = std::make_error_code(std::errc::not_enough_memory);
   } catch (const std::length_error&) {
@@ -46,7 +51,7 @@ FileResult<std::string> Read(NativeFile& file, std::size_t expected) {
 
 }  // namespace
 
-FileResult<std::string> ReadFile(const std::filesystem::path& path) {
+FileResult<std::string> ReadFile(const std::filesystem::path& path, ProgressSink* progress) {
   NativeFile file;
   if (const auto error = NativeFile::OpenToRead(path, file)) return FileError{SystemMessage(error)};
   const NativeFile::Kind kind = file.GetKind();
@@ -54,12 +59,12 @@ FileResult<std::string> ReadFile(const std::filesystem::path& path) {
     return FileError{SystemMessage(std::make_error_code(std::errc::is_a_directory))};
   }
   if (kind != NativeFile::Kind::Regular) return FileError{"Not a regular file"};
-  return Read(file, file.SizeHint());
+  return Read(file, file.SizeHint(), progress);
 }
 
 FileResult<std::string> ReadStandardInput() {
   NativeFile input = NativeFile::StandardInput();
-  return Read(input, 0);
+  return Read(input, 0, nullptr);
 }
 
 }  // namespace mivo

@@ -1,6 +1,6 @@
 #include "library_writer.h"
 
-#include <tsl/robin_map.h>
+#include <unordered_map>
 
 #include "mivo_doc.h"
 
@@ -18,7 +18,7 @@ void WriteAlias(SRecordWriter& writer, std::u16string_view alias, std::u16string
 }  // namespace
 
 void WriteLibrary(SRecordWriter& writer, std::u16string_view property,
-                  std::span<const NameEntry* const> entries) {
+                  std::span<const NameEntry* const> entries, ProgressSink* progress) {
   writer.WriteField(SMivoDoc::kLibraryTag);
   writer.EndLine();
   writer.WriteInt(u"VER", SMivoDoc::kVersion);
@@ -26,9 +26,10 @@ void WriteLibrary(SRecordWriter& writer, std::u16string_view property,
   writer.WriteText(u"PROP", property);
   writer.EndLine();
 
-  tsl::robin_map<const SComponent*, const NameEntry*> firstEntries;
-  firstEntries.reserve(entries.size());
+  std::unordered_map<const SComponent*, const NameEntry*> firstEntries;
+  std::uint64_t done = 0;
   for (const NameEntry* const entry : entries) {
+    if (progress != nullptr) progress->Advance(done++, entries.size());
     if (entry->Name().empty()) continue;
     const auto [first, isFirst] = firstEntries.emplace(entry->Component(), entry);
     if (isFirst) {

@@ -12,6 +12,7 @@
 #include "byte_stream.h"
 #include "component.h"
 #include "name_index.h"
+#include "progress.h"
 
 namespace mivo {
 
@@ -35,9 +36,10 @@ class SMivoDoc {
 
   /// Reads the content of a library or schematic file and, when that succeeds, takes `path` as the
   /// library's path. False when there is a path already or the content is malformed; what was read
-  /// before the fault stays in the library.
+  /// before the fault stays in the library. `progress` hears how much was read, and must leave the
+  /// library alone.
   [[nodiscard]] bool Load(std::string_view bytes, std::u16string_view path,
-                          FindingSink* sink = nullptr);
+                          FindingSink* sink = nullptr, ProgressSink* progress = nullptr);
 
   enum class BodyExtent { Whole, FirstComponent };
   /// Reads records up to the end of the data, or up to the first component; the reader stands
@@ -45,8 +47,10 @@ class SMivoDoc {
   [[nodiscard]] bool ReadBody(SRecordReader& reader, BodyExtent extent);
 
   /// Writes the library with `entries` in this order: each component under its first entry, its
-  /// further entries as aliases. False when the sink failed.
-  [[nodiscard]] bool Write(ByteSink& sink, std::span<const NameEntry* const> entries) const;
+  /// further entries as aliases. False when the sink failed. `progress` counts entries, and must
+  /// leave the library alone.
+  [[nodiscard]] bool Write(ByteSink& sink, std::span<const NameEntry* const> entries,
+                           ProgressSink* progress = nullptr) const;
   /// The same with the entries in the order in which they were added.
   [[nodiscard]] bool Write(ByteSink& sink) const;
 

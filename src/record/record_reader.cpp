@@ -13,6 +13,7 @@ namespace mivo {
 namespace {
 
 constexpr std::size_t kPieceBytes = std::size_t{1} << 16;
+constexpr std::size_t kStretchLength = std::size_t{1} << 20;
 constexpr std::size_t kFindingTextLength = 80;
 
 bool EndsField(char16_t c) {
@@ -23,7 +24,8 @@ bool EndsField(char16_t c) {
 
 void SRecordReader::AttachString(std::u16string_view text) {
   source_ = nullptr;
-  Start(text.data(), text.data() + text.size());
+  rest_ = text;
+  Start(text.data());
 }
 
 void SRecordReader::AttachFile(ByteSource& source, ByteDecoding decoding) {
@@ -34,24 +36,46 @@ void SRecordReader::AttachFile(ByteSource& source, ByteDecoding decoding) {
     bytes_ = std::make_unique<char[]>(kPieceBytes);
     window_ = std::make_unique<char16_t[]>(kPieceBytes);
   }
-  Start(window_.get(), window_.get());
+  Start(window_.get());
 }
 
-void SRecordReader::Start(const char16_t* begin, const char16_t* end) {
-  windowBegin_ = current_ = begin;
-  end_ = end;
+void SRecordReader::Start(const char16_t* begin) {
+  windowBegin_ = current_ = end_ = begin;
   attached_ = true;
+  taken_ = 0;
   exhausted_ = false;
   line_ = fieldLine_ = 1;
   windowOffset_ = lineOffset_ = 0;
   fieldColumn_ = 1;
 }
 
+void SRecordReader::MoveWindow(const char16_t* begin, std::size_t length) {
+  windowOffset_ += end_ - windowBegin_;
+  windowBegin_ = current_ = begin;
+  end_ = begin + length;
+}
+
+void SRecordReader::Took(std::size_t count) {
+  taken_ += count;
+  if (progress_ != nullptr) progress_->Advance(taken_, progressTotal_);
+}
+
+bool SRecordReader::NextStretch() {
+  const std::size_t length = std::min(rest_.size(), kStretchLength);
+  if (length == 0) return false;
+  MoveWindow(rest_.data(), length);
+  rest_.remove_prefix(length);
+  Took(length);
+  return true;
+}
+
 bool SRecordReader::Refill() {
+  if (source_ == nullptr) return NextStretch();
   // The padding of an unterminated field asks for thousands of characters behind the end.
-  if (source_ == nullptr || exhausted_) return false;
+  if (exhausted_) return false;
   const std::size_t got = source_->Read(std::span(bytes_.get(), kPieceBytes).subspan(byteCount_));
   byteCount_ += got;
+  Took(got);
   exhausted_ = got == 0;
   if (byteCount_ == 0) return false;
 
@@ -65,9 +89,7 @@ bool SRecordReader::Refill() {
   }
   byteCount_ -= progress.bytesRead;
   std::copy_n(bytes_.get() + progress.bytesRead, byteCount_, bytes_.get());
-  windowOffset_ += end_ - windowBegin_;
-  windowBegin_ = current_ = window_.get();
-  end_ = current_ + progress.unitsWritten;
+  MoveWindow(window_.get(), progress.unitsWritten);
   // A few bytes of a cut-off character decode to nothing until the rest of it has been read.
   return progress.unitsWritten > 0 || Refill();
 }
@@ -87,7 +109,6 @@ void SRecordReader::CountLine() noexcept {
 
 FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
   field = {};
-  fieldInScratch_ = !attached_;
   if (!attached_) {
     scratch_.assign(kMaxFieldLength, u'\0');
     field = scratch_;
@@ -126,7 +147,6 @@ FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
 
 FieldStatus SRecordReader::CollectIntoScratch(std::u16string_view& field) {
   scratch_.clear();
-  fieldInScratch_ = true;
   char16_t c = GetCharacter();
   while (!EndsField(c) && scratch_.size() < kMaxFieldLength) {
     if (c == u'%') {
@@ -187,7 +207,6 @@ void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
 }
 
 std::u16string_view SRecordReader::TextValue(std::u16string_view value) {
-  if (!fieldInScratch_) return value;  // a NUL outside of an escape ends the data
   const std::u16string_view text = UpToNul(value);
   if (text.size() < value.size()) Report(FindingKind::TextCutAtNul, text);
   return text;

@@ -8,6 +8,7 @@
 
 #include "byte_stream.h"
 #include "finding.h"
+#include "progress.h"
 
 namespace mivo {
 
@@ -65,6 +66,13 @@ class SRecordReader {
   /// Line counter: 1 once a source is attached, plus every line feed consumed.
   [[nodiscard]] std::int32_t Line() const noexcept { return line_; }
 
+  /// Whom to tell, once per piece, how much was taken from the source: bytes of a file, characters
+  /// of a text. The sink stays owned by the caller.
+  void SetProgress(ProgressSink* sink, std::uint64_t total) noexcept {
+    progress_ = sink;
+    progressTotal_ = total;
+  }
+
   /// Where findings go; none by default. The sink stays owned by the caller.
   void SetSink(FindingSink* sink) noexcept { sink_ = sink; }
 
@@ -97,17 +105,21 @@ class SRecordReader {
 
   char16_t GetCharacter();
   bool Refill();
-  void Start(const char16_t* begin, const char16_t* end);
+  bool NextStretch();
+  void Start(const char16_t* begin);
+  void MoveWindow(const char16_t* begin, std::size_t length);
+  void Took(std::size_t count);
   void CountLine() noexcept;
   FieldStatus CollectIntoScratch(std::u16string_view& field);
   bool AppendEscape();
 
-  // The characters at hand: the whole text of a string source, the decoded window of a file source.
+  // The characters at hand: a stretch of a text, the decoded window of a file.
   const char16_t* current_ = nullptr;
   const char16_t* end_ = nullptr;
   const char16_t* windowBegin_ = nullptr;
   bool attached_ = false;
 
+  std::u16string_view rest_;  // of a text, behind the stretch at hand
   ByteSource* source_ = nullptr;
   ByteDecoding decoding_ = ByteDecoding::Utf8;
   std::unique_ptr<char16_t[]> window_;
@@ -117,7 +129,6 @@ class SRecordReader {
   std::size_t byteCount_ = 0;
 
   std::u16string scratch_;  // a field that is not a stretch of the characters at hand
-  bool fieldInScratch_ = false;
 
   std::int32_t line_ = 0;
   std::int32_t fieldLine_ = 0;
@@ -127,6 +138,10 @@ class SRecordReader {
 
   FindingSink* sink_ = nullptr;
   std::u16string_view record_;
+
+  ProgressSink* progress_ = nullptr;
+  std::uint64_t progressTotal_ = 0;
+  std::uint64_t taken_ = 0;
 };
 
 }  // namespace mivo
