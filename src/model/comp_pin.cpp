@@ -51,6 +51,15 @@ void ReadLocation(SRecordReader& reader, std::u16string_view value, SPinLocation
   }
 }
 
+/// Whether a name reads the same as people type it and as it is stored. Most do, and a library has
+/// a million of them.
+bool IsPlain(std::u16string_view name) {
+  return name.size() <= SCompPin::kMaxNameLength &&
+         std::all_of(name.begin(), name.end(), [](char16_t c) {
+           return c < SCompPin::kOverline && c != u'\\' && c != u'\0';
+         });
+}
+
 /// Whether a name read from `text` is displayed as `text` again.
 bool IsDisplayForm(std::u16string_view text) {
   std::size_t characters = 0;
@@ -100,8 +109,8 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
   std::int32_t nextNumber = 0;
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
-    if (field == u"-PIN") return true;
     if (field.starts_with(u'-')) {
+      if (field == u"-PIN") return true;
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
     }
@@ -114,8 +123,12 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
       reader.Report(FindingKind::FieldWithoutValue, field);
     } else if (keyed->key == u"N") {
       const std::u16string_view text = reader.TextValue(keyed->value);
-      SetNameFromDisplayText(text);
-      if (!IsDisplayForm(text)) reader.Report(FindingKind::NotCanonical, field);
+      if (IsPlain(text)) {
+        name_ = text;
+      } else {
+        SetNameFromDisplayText(text);
+        if (!IsDisplayForm(text)) reader.Report(FindingKind::NotCanonical, field);
+      }
     } else if (keyed->key == u"DF") {
       nameMask = ParseHex(keyed->value);
     } else if (keyed->key == u"L") {
@@ -139,15 +152,12 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
 bool SCompPin::Write(SRecordWriter& writer) const {
   std::u16string place(1, kSideLetters[static_cast<std::size_t>(location.side)]);
   place.append(IntText(location.offset));
-  const bool isPlain =
-      std::all_of(name_.begin(), name_.end(), [](char16_t c) { return c < kOverline && c != 0; });
   std::u16string letters;
   for (const TypeLetter& entry : kTypeLetters) {
     if ((type & entry.bit) != 0) letters.push_back(entry.letter);
   }
   writer.WriteField(u"+PIN");
-  // Most names read the same either way, and a library has a million of them.
-  if (isPlain) {
+  if (IsPlain(name_)) {
     writer.WriteText(u"N", name_);
   } else {
     writer.WriteText(u"N", DisplayName());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 
 #include "keyed_field.h"
@@ -38,7 +39,7 @@ std::u16string_view BlockTypeName(BlockType type) noexcept {
 
 /// The keyed fields of a component record as they come, before the record is complete.
 struct SComponent::PendingRecord {
-  RecordNames& names;
+  ReadContext& context;
   BlockType type = BlockType::General;
   std::int32_t blockCount = 0;
   std::int32_t fixedBlock = 0;
@@ -54,11 +55,11 @@ bool SComponent::ReadKeyedField(SRecordReader& reader, std::u16string_view field
   const auto [key, value] = *keyed;
   bool valid = true;
   if (key == u"N") {
-    pending.names.name = reader.TextValue(value);
+    pending.context.name = reader.TextValue(value);
   } else if (key == u"R") {
     prefix = reader.TextValue(value);
   } else if (key == u"P") {
-    pending.names.patternName = reader.TextValue(value);
+    pending.context.patternName = reader.TextValue(value);
   } else if (key == u"TYPE") {
     const std::optional<BlockType> type = BlockTypeFromName(reader.TextValue(value));
     if (!type) reader.Report(FindingKind::ValueIgnored, field);
@@ -88,30 +89,22 @@ bool SComponent::ReadKeyedField(SRecordReader& reader, std::u16string_view field
   return valid;
 }
 
-bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
-  const SRecordReader::RecordScope scope(reader, u"+COMP");
-  *this = SComponent();
-  names = {};
-  PendingRecord pending{names};
+bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
   const auto isSized = [&] { return size_.x >= 1 && size_.y >= 1 && pending.blockCount >= 1; };
-
   std::u16string_view field;
-  bool closed = false;
-  while (!closed && reader.ReadField(field) == FieldStatus::Ok) {
+  while (reader.ReadField(field) == FieldStatus::Ok) {
     if (field == u"+PIN") {
       if (!isSized()) {
         reader.Report(FindingKind::PinBeforeSize, field);
         return false;
       }
-      if (!pins_.emplace_back().Read(reader, pending.blockCount)) return false;
+      if (!pending.context.pins.emplace_back().Read(reader, pending.blockCount)) return false;
     } else if (field.starts_with(u'+')) {
       if (!reader.SkipUnknownRecord(field)) return false;
     } else if (field == u"-COMP") {
-      if (names.name.empty() || !isSized()) {
-        reader.Report(FindingKind::IncompleteRecord, field);
-        return false;
-      }
-      closed = true;
+      if (!pending.context.name.empty() && isSized()) return true;
+      reader.Report(FindingKind::IncompleteRecord, field);
+      return false;
     } else if (field.starts_with(u'-')) {
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
@@ -119,7 +112,20 @@ bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
       return false;
     }
   }
-  if (!closed) reader.Report(FindingKind::DataCutOff, u"+COMP");
+  reader.Report(FindingKind::DataCutOff, u"+COMP");
+  return true;
+}
+
+bool SComponent::Read(SRecordReader& reader, ReadContext& context) {
+  const SRecordReader::RecordScope scope(reader, u"+COMP");
+  *this = SComponent();
+  context.name.clear();
+  context.patternName.clear();
+  PendingRecord pending{context};
+  const bool good = ReadFields(reader, pending);
+  pins_.assign(std::move_iterator(context.pins.begin()), std::move_iterator(context.pins.end()));
+  context.pins.clear();
+  if (!good) return false;
 
   type_ = pending.type;
   blockCount_ = pending.blockCount;
@@ -129,10 +135,9 @@ bool SComponent::Read(SRecordReader& reader, RecordNames& names) {
     reader.Report(FindingKind::ValueIgnored, u"FB");
   }
   if (type_ != BlockType::General) {
-    if (blockCount_ > 1) reader.Report(FindingKind::BlocksReduced, names.name);
+    if (blockCount_ > 1) reader.Report(FindingKind::BlocksReduced, context.name);
     SetBlockCount(1);
   }
-  pins_.shrink_to_fit();
   return true;
 }
 

@@ -30,15 +30,16 @@ class SComponent {
   static constexpr std::int32_t kMaxBlocks = 255;
   static constexpr std::int32_t kMaxFixedBlock = 255;
 
-  /// What a component record says about names; the library resolves both.
-  struct RecordNames {
-    std::u16string name;
-    std::u16string patternName;
+  /// What a component record says beside the component itself; one serves record after record.
+  struct ReadContext {
+    std::u16string name;         ///< the library resolves this
+    std::u16string patternName;  ///< and this
+    std::vector<SCompPin> pins;  ///< room to collect the pins of a record in; empty outside of Read
   };
 
   /// Replaces everything by the record behind "+COMP". False when the record is malformed; the
   /// component is then worthless.
-  [[nodiscard]] bool Read(SRecordReader& reader, RecordNames& names);
+  [[nodiscard]] bool Read(SRecordReader& reader, ReadContext& context);
 
   /// Writes the pattern's record, if there is a pattern, and the component's under `name`. False,
   /// with nothing written, when the name is empty.
@@ -90,6 +91,7 @@ class SComponent {
  private:
   struct PendingRecord;
   bool ReadKeyedField(SRecordReader& reader, std::u16string_view field, PendingRecord& pending);
+  bool ReadFields(SRecordReader& reader, PendingRecord& pending);
 
   std::vector<SCompPin> pins_;
   std::shared_ptr<SPtn> pattern_;

@@ -87,12 +87,11 @@ bool LibraryReader::GivePattern(SComponent& component, const std::u16string& nam
 
 bool LibraryReader::ReadComponent() {
   auto component = std::make_unique<SComponent>();
-  SComponent::RecordNames names;
-  if (!component->Read(reader_, names)) return false;
-  if (!names.patternName.empty() && !GivePattern(*component, names.patternName)) return false;
-  const bool listedBefore = doc_.Names().Find(names.name) != nullptr;
-  const NameEntry* const entry = doc_.AddComponent(std::move(component), names.name);
-  if (listedBefore) ReportRenamed(*entry);
+  if (!component->Read(reader_, component_)) return false;
+  if (!component_.patternName.empty() && !GivePattern(*component, component_.patternName)) {
+    return false;
+  }
+  ReportRenamed(*doc_.AddComponent(std::move(component), component_.name), component_.name);
   return true;
 }
 
@@ -132,13 +131,12 @@ bool LibraryReader::ReadAlias() {
     reader_.Report(FindingKind::AliasTargetMissing, target);
     return true;
   }
-  const bool listedBefore = doc_.Names().Find(alias) != nullptr;
-  const NameEntry* const entry = doc_.AddAlias(existing->Component(), alias);
-  if (listedBefore) ReportRenamed(*entry);
+  ReportRenamed(*doc_.AddAlias(existing->Component(), alias), alias);
   return true;
 }
 
-void LibraryReader::ReportRenamed(const NameEntry& entry) {
+void LibraryReader::ReportRenamed(const NameEntry& entry, std::u16string_view nameInFile) {
+  if (entry.Name() == nameInFile) return;
   // Once the attempts are used up the same name is given twice, and the next load renames it again.
   const bool unique = doc_.Names().Find(entry.Name()) == &entry;
   reader_.Report(unique ? FindingKind::NameChanged : FindingKind::NotCanonical, entry.Name());

@@ -4,7 +4,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+
+#include <tsl/robin_map.h>
 
 #include "mivo_doc.h"
 
@@ -27,13 +28,15 @@ class LibraryReader {
   [[nodiscard]] bool GivePattern(SComponent& component, const std::u16string& name);
   [[nodiscard]] bool ReadAlias();
   void ReadKeyedField(std::u16string_view field);
-  void ReportRenamed(const NameEntry& entry);
+  /// Reports an entry that could not be given the name that the file gives it.
+  void ReportRenamed(const NameEntry& entry, std::u16string_view nameInFile);
 
   SMivoDoc& doc_;
   SRecordReader& reader_;
   // The first pattern of each name. Components share it until one of them is edited.
-  std::unordered_map<std::u16string, std::shared_ptr<SPtn>> patterns_;
+  tsl::robin_map<std::u16string, std::shared_ptr<SPtn>> patterns_;
   BitPatternBudget bitPatternBudget_;
+  SComponent::ReadContext component_;
 };
 
 }  // namespace mivo

@@ -1,6 +1,6 @@
 #include "library_writer.h"
 
-#include <unordered_map>
+#include <tsl/robin_map.h>
 
 #include "mivo_doc.h"
 
@@ -26,7 +26,8 @@ void WriteLibrary(SRecordWriter& writer, std::u16string_view property,
   writer.WriteText(u"PROP", property);
   writer.EndLine();
 
-  std::unordered_map<const SComponent*, const NameEntry*> firstEntries;
+  tsl::robin_map<const SComponent*, const NameEntry*> firstEntries;
+  firstEntries.reserve(entries.size());
   std::uint64_t done = 0;
   for (const NameEntry* const entry : entries) {
     if (progress != nullptr) progress->Advance(done++, entries.size());

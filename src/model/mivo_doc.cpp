@@ -18,6 +18,15 @@ struct FileHead {
   std::int32_t version;
 };
 
+/// A field of the first look as text: its bytes, which stand in it sign-extended, in UTF-8. What
+/// fills up a field that the end of the data cuts off stays.
+std::u16string Decoded(std::u16string_view field) {
+  const std::size_t end = std::min(field.find(u'\xFFFF'), field.size());
+  std::string bytes;
+  for (const char16_t unit : field.substr(0, end)) bytes.push_back(static_cast<char>(unit));
+  return Utf8ToUtf16(bytes).append(field.substr(end));
+}
+
 /// Looks at the fields up to the version, which decides how the file is decoded; so it is read
 /// before anything is decoded. Nothing when the content is no library or schematic.
 std::optional<FileHead> PeekHead(std::string_view bytes, FindingSink* sink) {
@@ -29,7 +38,7 @@ std::optional<FileHead> PeekHead(std::string_view bytes, FindingSink* sink) {
   const bool isSchematic = hasField && field == SMivoDoc::kSchematicTag;
   if (!hasField || (!isSchematic && field != SMivoDoc::kLibraryTag)) {
     reader.SetSink(sink);  // whatever else there is to find is read once more
-    reader.Report(FindingKind::NotALibrary, field);
+    reader.Report(FindingKind::NotALibrary, Decoded(field));
     return std::nullopt;
   }
   if (isSchematic) reader.SkipToField(SMivoDoc::kLibraryTag);
@@ -38,7 +47,12 @@ std::optional<FileHead> PeekHead(std::string_view bytes, FindingSink* sink) {
   if (colon == std::u16string_view::npos || field.substr(0, colon) != u"VER") {
     return FileHead{isSchematic, kVersionOfFilesWithoutOne};
   }
-  return FileHead{isSchematic, ParseInt(field.substr(colon + 1))};
+  const std::int32_t version = ParseInt(field.substr(colon + 1));
+  if (version > SMivoDoc::kVersion) {
+    reader.SetSink(sink);
+    reader.Report(FindingKind::LaterVersion, Decoded(field));
+  }
+  return FileHead{isSchematic, version};
 }
 
 /// Whether a schematic is whole: what lies between its library blocks is not looked at.
@@ -109,7 +123,8 @@ NameEntry* SMivoDoc::AddComponent(std::unique_ptr<SComponent> component, std::u1
 }
 
 NameEntry* SMivoDoc::AddAlias(SComponent* component, std::u16string_view name) {
-  return names_.Add(names_.UniqueName(name), component);
+  NameEntry* const entry = names_.AddIfFree(name, component);
+  return entry != nullptr ? entry : names_.Add(names_.UniqueName(name), component);
 }
 
 void SMivoDoc::Rename(NameEntry& entry, std::u16string_view name) {

@@ -26,6 +26,16 @@ NumberedName SplitNumber(std::u16string_view name) {
   return {name, 0};
 }
 
+/// `base` without what would leave no room for a number, however long; no half of a surrogate pair
+/// is left over.
+std::u16string_view Shortened(std::u16string_view base) {
+  constexpr std::size_t kLongestNumber = std::u16string_view(u"(-2147483648)").size();
+  constexpr std::size_t kLimit = NameIndex::kMaxNumberedLength - kLongestNumber;
+  if (base.size() <= kLimit) return base;
+  const bool splitsPair = (base[kLimit - 1] & 0xFC00) == 0xD800;
+  return base.substr(0, splitsPair ? kLimit - 1 : kLimit);
+}
+
 std::u16string WithNumber(std::u16string_view base, std::int32_t number) {
   std::u16string name(base);
   name.push_back(u'(');
@@ -43,7 +53,8 @@ NameEntry* NameIndex::Find(std::u16string_view name) const {
 
 std::u16string NameIndex::UniqueName(std::u16string_view name) {
   if (Find(name) == nullptr) return std::u16string(name);
-  const auto [base, number] = SplitNumber(name);
+  const auto [whole, number] = SplitNumber(name);
+  const std::u16string_view base = Shortened(whole);
   return WithNumber(base, FirstFree(base, number));
 }
 
@@ -71,6 +82,12 @@ std::int32_t NameIndex::FirstFree(std::u16string_view base, std::int32_t start) 
     passed = std::exchange(next.find(passed)->second, number);
   }
   return withinAttempts(number) ? number : WrapAdd(start, kMaxAttempts);
+}
+
+NameEntry* NameIndex::AddIfFree(std::u16string_view name, SComponent* component) {
+  auto entry = std::make_unique<NameEntry>(std::u16string(name), component);
+  if (!byName_.emplace(entry->name_, entry.get()).second) return nullptr;
+  return entries_.emplace_back(std::move(entry)).get();
 }
 
 NameEntry* NameIndex::Add(std::u16string name, SComponent* component) {

@@ -2,11 +2,16 @@
 #define MIVO_MODEL_NAME_INDEX_H
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+#include <tsl/robin_map.h>
+
+#include "record_reader.h"
 
 namespace mivo {
 
@@ -35,15 +40,20 @@ class NameIndex {
  public:
   /// Attempts of UniqueName.
   static constexpr std::int32_t kMaxAttempts = 4096;
+  /// The longest name that fits into a record's field with its key "N:".
+  static constexpr std::size_t kMaxNumberedLength = SRecordReader::kMaxFieldLength - 2;
 
   /// The first entry with exactly this name; null when there is none.
   [[nodiscard]] NameEntry* Find(std::u16string_view name) const;
 
   /// `name` when no entry has it, otherwise the first free of name(1), name(2), … (counting on from
   /// a number in parentheses at its end). After kMaxAttempts the last candidate is returned as it
-  /// is, taken or not.
+  /// is, taken or not. A name to which no number can be added within kMaxNumberedLength code units
+  /// is shortened before its number, since a longer one would not load again.
   [[nodiscard]] std::u16string UniqueName(std::u16string_view name);
 
+  /// Appends an entry when no other has its name; null, with nothing added, otherwise.
+  NameEntry* AddIfFree(std::u16string_view name, SComponent* component);
   /// Appends an entry; the name is taken as it is.
   NameEntry* Add(std::u16string name, SComponent* component);
   void Rename(NameEntry& entry, std::u16string name);
@@ -61,8 +71,13 @@ class NameIndex {
   void Forget(const NameEntry& entry);
 
   std::vector<std::unique_ptr<NameEntry>> entries_;
+  using ByName =
+      tsl::robin_map<std::u16string_view, NameEntry*, std::hash<std::u16string_view>,
+                     std::equal_to<>, std::allocator<std::pair<std::u16string_view, NameEntry*>>,
+                     true>;  // with the hashes, which spare a look at most other names
+
   // The first entry of each name; the views point into the entries.
-  std::unordered_map<std::u16string_view, NameEntry*> byName_;
+  ByName byName_;
   // For each base name: numbers with which the name is known to be taken, each with a later number
   // that may be free; everything between the two is taken as well. Only additions keep this true.
   std::unordered_map<std::u16string, std::unordered_map<std::int32_t, std::int32_t>> taken_;

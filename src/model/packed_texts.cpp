@@ -23,9 +23,14 @@ std::size_t FindEntry(const std::u16string& packed, std::int32_t index) {
   return at;
 }
 
+void AppendHeader(std::u16string& packed, std::size_t value) {
+  packed.push_back(static_cast<char16_t>(value >> 16));
+  packed.push_back(static_cast<char16_t>(value & 0xFFFF));
+}
+
 std::u16string Entry(std::optional<std::u16string_view> text) {
-  const std::size_t value = text ? text->size() + 1 : 0;
-  std::u16string entry{static_cast<char16_t>(value >> 16), static_cast<char16_t>(value & 0xFFFF)};
+  std::u16string entry;
+  AppendHeader(entry, text ? text->size() + 1 : 0);
   if (text) entry.append(*text);
   return entry;
 }
@@ -47,7 +52,8 @@ void PackedTexts::Set(std::int32_t index, std::optional<std::u16string_view> tex
     packed_.replace(at, EntrySize(packed_, at), Entry(text));
   } else if (text) {
     packed_.append(kHeader * static_cast<std::size_t>(index - stored_), u'\0');
-    packed_.append(Entry(text));
+    AppendHeader(packed_, text->size() + 1);
+    packed_.append(*text);
     stored_ = index + 1;
   }
   if (!text) DropAbsentTail();

@@ -52,6 +52,8 @@ std::u16string_view MessageOf(FindingKind kind) noexcept {
       return u"bits beyond the width of the pattern are cleared";
     case FindingKind::NotCanonical:
       return u"saving and loading again would change this";
+    case FindingKind::LaterVersion:
+      return u"file of a later version: what only that version knows is lost";
     case FindingKind::NotALibrary:
       return u"this is neither a component library nor a schematic";
     case FindingKind::UnclosedRecord:

@@ -35,6 +35,7 @@ enum class FindingKind {
   TextCutAtNul,     ///< a text that holds a NUL
   BitsBeyondWidth,  ///< set bits beyond the width of a bit pattern
   NotCanonical,     ///< what was read would read back differently once saved
+  LaterVersion,     ///< the file's version is later than the one that is read and written
 
   // What failed the read. What was read before it stays.
   NotALibrary,          ///< the first field opens neither a library nor schematic data

@@ -109,6 +109,7 @@ void SRecordReader::CountLine() noexcept {
 
 FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
   field = {};
+  fieldInScratch_ = !attached_;
   if (!attached_) {
     scratch_.assign(kMaxFieldLength, u'\0');
     field = scratch_;
@@ -147,6 +148,7 @@ FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
 
 FieldStatus SRecordReader::CollectIntoScratch(std::u16string_view& field) {
   scratch_.clear();
+  fieldInScratch_ = true;
   char16_t c = GetCharacter();
   while (!EndsField(c) && scratch_.size() < kMaxFieldLength) {
     if (c == u'%') {
@@ -207,6 +209,7 @@ void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
 }
 
 std::u16string_view SRecordReader::TextValue(std::u16string_view value) {
+  if (!fieldInScratch_) return value;  // a NUL outside of an escape ends the data
   const std::u16string_view text = UpToNul(value);
   if (text.size() < value.size()) Report(FindingKind::TextCutAtNul, text);
   return text;

@@ -129,6 +129,7 @@ class SRecordReader {
   std::size_t byteCount_ = 0;
 
   std::u16string scratch_;  // a field that is not a stretch of the characters at hand
+  bool fieldInScratch_ = false;
 
   std::int32_t line_ = 0;
   std::int32_t fieldLine_ = 0;

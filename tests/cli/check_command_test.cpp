@@ -57,6 +57,19 @@ TEST(Check, WhatIsNoLibraryIsAnError) {
             "-:1: error: this is neither a component library nor a schematic: \"no library\"\n");
 }
 
+TEST(Check, WhatIsNoLibraryIsShownInUtf8) {
+  EXPECT_EQ(Check("Stück \xC3\n", false).output,
+            "-:1: error: this is neither a component library nor a schematic: \"Stück \uFFFD\"\n");
+}
+
+TEST(Check, AFileOfALaterVersionIsAWarning) {
+  const Outcome outcome = Check("+TARSL_LIB_V.1.0\nVER:83\nPROP:\n-TARSL_LIB_V.1.0\n", false);
+  EXPECT_EQ(outcome.code, ExitCode::Findings);
+  EXPECT_EQ(outcome.output,
+            "-:2: warning: file of a later version: what only that version knows is lost: "
+            "\"VER:83\"\n");
+}
+
 TEST(Check, ALineOfOutputStaysOne) {
   const Outcome outcome = Check(LibraryOf("A%0A%1B:1\n"), false);
   EXPECT_EQ(outcome.output, "-:4: warning: unknown key is ignored: \"A\\n\\u001b:1\"\n");

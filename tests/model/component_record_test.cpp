@@ -17,7 +17,7 @@ using testing::IsEmpty;
 struct ReadResult {
   bool ok = false;
   SComponent component;
-  SComponent::RecordNames names;
+  SComponent::ReadContext names;
   std::vector<FindingKind> findings;
   std::u16string next;  ///< the field that reading goes on with
 };
@@ -75,7 +75,7 @@ TEST(ComponentRead, TakesEmptyTexts) {
 TEST(ComponentRead, ForgetsWhatTheComponentWas) {
   RecordText first(u"+COMP,N:A,X:9,Y:9,B:2,R:Q,NOTE:n,TYPE:FXB,FB:3,P:p,+PIN,-PIN,-COMP\n");
   SComponent component;
-  SComponent::RecordNames names;
+  SComponent::ReadContext names;
   ASSERT_TRUE(component.Read(*first, names));
   component.UsePattern(true, true);
   RecordText second(u"+COMP\n");

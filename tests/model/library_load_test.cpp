@@ -101,6 +101,47 @@ TEST(LibraryFileTest, IsNoneWithoutAnyBytes) {
   EXPECT_THAT(library.findings.all, ElementsAre(Finding{FindingKind::NotALibrary, 1, 1, u"", u""}));
 }
 
+TEST(LibraryFileTest, TellsInUtf8WhatIsThereInsteadOfALibrary) {
+  const LoadedLibrary library("Stückliste \xFE.\n");
+  EXPECT_FALSE(library.loaded);
+  EXPECT_THAT(library.findings.all, ElementsAre(Finding{FindingKind::NotALibrary, 1, 1, u"",
+                                                        u"St\u00FCckliste \uFFFD."}));
+}
+
+TEST(LibraryFileTest, TellsWhereTheEndCutsOffWhatIsThereInsteadOfALibrary) {
+  const LoadedLibrary library("Stück");
+  ASSERT_EQ(library.findings.all.size(), 1u);
+  EXPECT_EQ(library.findings.all[0].text, u"St\u00FCck" + std::u16string(75, u'\xFFFF'));
+}
+
+TEST(LibraryFileTest, OfALaterVersionTellsSo) {
+  const LoadedLibrary library("+TARSL_LIB_V.1.0\n VER:83\n-TARSL_LIB_V.1.0\n");
+  EXPECT_TRUE(library.loaded);
+  EXPECT_THAT(library.findings.all,
+              ElementsAre(Finding{FindingKind::LaterVersion, 2, 2, u"", u"VER:83"}));
+  EXPECT_EQ(SeverityOf(FindingKind::LaterVersion), Severity::Warning);
+  EXPECT_THAT(LoadedLibrary(Saved(library.library)).findings.all, IsEmpty());
+}
+
+TEST(LibraryFileTest, OfTheCurrentVersionHasNothingToTell) {
+  EXPECT_THAT(LoadedLibrary(LibraryFile(u"")).findings.all, IsEmpty());
+}
+
+// Names at the limit of a field leave no room for a number.
+TEST(LibraryFileTest, LoadsAgainWithLongNamesThatGotNumbers) {
+  const std::u16string longest(SRecordReader::kMaxFieldLength - 2, u'n');
+  const std::u16string records =
+      ComponentRecord(longest) + ComponentRecord(longest) + AliasRecord(longest, longest);
+  const LoadedLibrary library(LibraryFile(records));
+  ASSERT_TRUE(library.loaded);
+  const std::string saved = Saved(library.library);
+  const LoadedLibrary again(saved);
+  EXPECT_TRUE(again.loaded);
+  EXPECT_THAT(again.findings.all, IsEmpty());
+  EXPECT_EQ(again.Names(), library.Names());
+  EXPECT_EQ(Saved(again.library), saved);
+}
+
 TEST(LibraryFileTest, LoadsWhatItHoldsWithoutItsEnd) {
   const LoadedLibrary library("+TARSL_LIB_V.1.0\nVER:82\n" + Utf16ToUtf8(ComponentRecord(u"A")));
   EXPECT_TRUE(library.loaded);

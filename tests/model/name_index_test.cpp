@@ -91,6 +91,29 @@ TEST(NameIndex, GivesUpAfter4096Attempts) {
   EXPECT_EQ(index.UniqueName(u"R(1)"), u"R(4097)");
 }
 
+TEST(NameIndex, ShortensANameThatLeavesNoRoomForANumber) {
+  constexpr std::size_t kLimit = NameIndex::kMaxNumberedLength;
+  const std::u16string fits(kLimit - 13, u'n');
+  EXPECT_EQ(IndexOf({fits}).UniqueName(fits), WithNumber(fits, 1));
+  const std::u16string longest(kLimit, u'n');
+  NameIndex index = IndexOf({longest});
+  EXPECT_EQ(index.UniqueName(longest), WithNumber(fits, 1));
+  index.Add(WithNumber(fits, 1), nullptr);
+  EXPECT_EQ(index.UniqueName(longest), WithNumber(fits, 2));
+  index.Add(longest + u'x', nullptr);
+  EXPECT_EQ(index.UniqueName(longest + u'x'), WithNumber(fits, 2)) << "longer than any record's";
+  const std::u16string numbered = std::u16string(kLimit - 3, u'n') + u"(9)";
+  index.Add(numbered, nullptr);
+  EXPECT_EQ(index.UniqueName(numbered), WithNumber(fits, 10)) << "the number goes on";
+}
+
+TEST(NameIndex, ShortensNoSurrogatePairToAHalf) {
+  constexpr std::size_t kKept = NameIndex::kMaxNumberedLength - 13;
+  const std::u16string before(kKept - 1, u'n');
+  const std::u16string name = before + u"\U0001F600" + std::u16string(12, u'x');
+  EXPECT_EQ(IndexOf({name}).UniqueName(name), WithNumber(before, 1));
+}
+
 TEST(NameIndex, FindsTheFirstOfEqualNames) {
   NameIndex index;
   EXPECT_EQ(index.Find(u"A"), nullptr);

@@ -293,6 +293,8 @@ constexpr TranslatedText kTexts[] = {
     {IdOf(FindingKind::TextCutAtNul), "Text wird an einem NUL-Zeichen abgeschnitten"},
     {IdOf(FindingKind::BitsBeyondWidth), "Bits jenseits der Breite des Musters werden gelöscht"},
     {IdOf(FindingKind::NotCanonical), "Speichern und erneutes Laden würde dies ändern"},
+    {IdOf(FindingKind::LaterVersion),
+     "Datei einer späteren Version: was nur diese kennt, geht verloren"},
     {IdOf(FindingKind::NotALibrary), "dies ist weder Bauteilbibliothek noch Schaltplan"},
     {IdOf(FindingKind::UnclosedRecord), "die Daten enden in einem Datensatz"},
     {IdOf(FindingKind::WrongClosingTag), "schließende Marke gehört nicht hierher"},

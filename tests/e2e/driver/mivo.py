@@ -1,0 +1,333 @@
+"""A running Mivo and its windows."""
+
+import re
+import subprocess
+from functools import cached_property
+
+from .control import Control
+from .waiting import Gone, wait_for, wait_until
+
+DIALOG_ROLES = ("dialog", "alert message", "frame", "window")
+
+
+class Mivo:
+    """Starts the program and works with it as its user does."""
+
+    def __init__(self, desktop, texts, command, folder, environment, user=None):
+        self.desktop = desktop
+        self.texts = texts
+        self.input = desktop.input
+        self.watchers = []  # called with every dialog that a story opens
+        self.log = folder / f"mivo-{len(list(folder.glob('mivo-*.log')))}.log"
+        credentials = {"user": user.pw_uid, "group": user.pw_gid, "extra_groups": []} if user else {}
+        with open(self.log, "wb") as log:
+            self.process = subprocess.Popen(
+                [str(part) for part in command],
+                cwd=folder,
+                env=environment,
+                stdin=subprocess.DEVNULL,
+                stdout=log,
+                stderr=log,
+                **credentials,
+            )
+        self.application = wait_until(self._application, "the program to show its controls")
+        self.frame = wait_until(lambda: self._window(self._is_frame), "the window of the program")
+        wait_until(lambda: self.frame.has("active"), "the window to be active")
+
+    # --- Windows -----------------------------------------------------------------------------------
+
+    def _application(self):
+        assert self.process.poll() is None, f"The program ended: {self.log.read_text()}"
+        for service in self.desktop.bus.services_of(self.process.pid):
+            application = Control(self.desktop.bus, service, "/org/a11y/atspi/accessible/root")
+            try:
+                if application.role == "application":
+                    return application
+            except Gone:
+                continue
+        return None
+
+    def _window(self, condition):
+        for window in self.application.children:
+            try:
+                if window.role in DIALOG_ROLES and window.has("showing") and condition(window):
+                    return window
+            except Gone:
+                continue
+        return None
+
+    @staticmethod
+    def _is_frame(window):
+        return window.name == "Mivo" or window.name.startswith("Mivo - ")
+
+    @property
+    def title(self):
+        return self.frame.name
+
+    def wait_title(self, title):
+        wait_for(lambda: self.title, title, "the title of the window")
+
+    def activate(self):
+        self.desktop.activate(self.title)
+        wait_until(lambda: self.frame.has("active"), "the window to be active")
+
+    def dialog(self, english):
+        """Waits for the dialog with the title; it has the focus then."""
+        titles = self.texts.shown(english)
+        return self._opened(lambda window: window.name in titles, f"the dialog {english!r}")
+
+    def message(self, english):
+        """Waits for the message box with the text."""
+        wanted = self.texts.shown(english)
+
+        def says(window):
+            return window != self.frame and any(label.name in wanted for label in window.all(role="label"))
+
+        return self._opened(says, f"the message {english!r}")
+
+    def file_dialog(self):
+        """Waits for the question for a file's name."""
+        return self._opened(lambda window: window.all(role="file chooser") or self._asks_for_file(window), "a file dialog")
+
+    @staticmethod
+    def _asks_for_file(window):
+        return window.role == "dialog" and len(window.all(role="combo box")) == 2
+
+    def _opened(self, condition, what):
+        control = wait_until(lambda: self._window(condition), what)
+        wait_until(lambda: control.has("active"), f"{what} to be active")
+        dialog = Dialog(self, control)
+        for watch in self.watchers:
+            watch(dialog)
+        return dialog
+
+    def has_focus_or_ended(self):
+        return self.process.poll() is not None or self._window(lambda window: window.has("active"))
+
+    @property
+    def other_windows(self):
+        """The titles of what is open beside the main window."""
+        return [window.name for window in self.application.children
+                if window.role in DIALOG_ROLES and window.has("showing") and window != self.frame]  # fmt: skip
+
+    # --- Commands ----------------------------------------------------------------------------------
+
+    def press(self, *chords):
+        self.input.press(*chords)
+
+    def type(self, text):
+        self.input.type(text)
+
+    def menu(self, title, item):
+        """Chooses a command with the mouse."""
+        entry = self.menu_item(title, item)
+        self.input.click(self._menu(title).box.middle)
+        wait_until(lambda: entry.has("showing"), f"the menu {title!r} to open")
+        self.input.click(entry.box.middle)
+
+    def menu_by_keys(self, title, item):
+        """Chooses a command with the keyboard: its letter, or the arrows when it has none of its own."""
+        menu, entry = self._menu(title), self.menu_item(title, item)
+        items = [each for each in entry_parent_items(menu) if each.name]
+        self.press(f"Alt+{self.texts.mnemonics(title)[0]}")
+        wait_until(lambda: entry.has("showing"), f"the menu {title!r} to open")
+        wait_until(lambda: any(each.has("focused") for each in items), "an item of the menu to be chosen")
+        for _ in items:
+            if entry.has("focused"):
+                break
+            chosen = next(each for each in items if each.has("focused"))
+            self.press("Down")
+            wait_until(lambda chosen=chosen: not chosen.has("focused"), "the next item of the menu")
+        assert entry.has("focused"), f"the arrows do not reach {item!r}"
+        self.press("Enter")
+
+    def is_enabled(self, title, item):
+        return self.menu_item(title, item).has("enabled")
+
+    def _menu(self, title):
+        names = self.texts.shown(title)
+        return next(menu for menu in self.menu_bar.children if menu.name in names)
+
+    @cached_property
+    def menu_bar(self):
+        return self.frame.find(role="menu bar")
+
+    def menu_item(self, title, item):
+        names = self.texts.shown(item)
+        items = entry_parent_items(self._menu(title))
+        return next(entry for entry in items if entry.name.split("\t")[0] in names)
+
+    # --- What the window shows ---------------------------------------------------------------------
+
+    @property
+    def status(self):
+        return "   ".join(label.name for label in self._status_bar.children if label.role == "label")
+
+    @cached_property
+    def _status_bar(self):
+        return self.frame.find(role="status bar")
+
+    def wait_status(self, english):
+        """Waits until the status bar says what is expected next."""
+        wanted = self.texts.first(english)
+        wait_until(lambda: re.search(re.escape(wanted) + r"(?![:,\w])", self.status), f"the status bar to say {wanted!r}")
+
+    @cached_property
+    def name_list(self):
+        return self.frame.find(name=self.texts.first("Component names"), role="list")
+
+    @property
+    def names(self):
+        return [item.name for item in self.name_list.children]
+
+    @property
+    def selected_name(self):
+        return next((item.name for item in self.name_list.children if item.has("selected")), None)
+
+    @property
+    def note(self):
+        return self._note.text
+
+    @cached_property
+    def _note(self):
+        return self.frame.find(name=self.texts.first("Note of the component"), role="text")
+
+    def choose(self, name):
+        """Clicks a name in the list."""
+        item = next(item for item in self.name_list.children if item.name == name)
+        self.input.click(item.box.middle)
+        wait_for(lambda: self.selected_name, name, "the selected name")
+
+    # --- Files and the end -------------------------------------------------------------------------
+
+    def answer_file_dialog(self, path):
+        dialog = self.file_dialog()
+        dialog.enter_file(path)
+
+    def save_as(self, path):
+        self.menu("File", "Save as...")
+        self.answer_file_dialog(path)
+        self.wait_title(f"Mivo - {path}")
+
+    def quit(self):
+        """Leaves the program, which has nothing to ask."""
+        self.menu("File", "Exit")
+        self.wait_end()
+
+    def quit_without_saving(self):
+        self.menu("File", "Exit")
+        self.message("Save changes?").click("No")
+        self.wait_end()
+
+    def wait_end(self):
+        wait_until(lambda: self.process.poll() is not None, "the program to end")
+        assert self.process.returncode == 0, f"The program ended with {self.process.returncode}"
+
+    def end(self):
+        """Ends the program whatever it shows, when a story is over."""
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
+
+
+def entry_parent_items(menu):
+    """The items of a menu of the menu bar, open or not."""
+    return [item for popup in menu.children for item in popup.children]
+
+
+class Dialog:
+    """A window that asks something."""
+
+    def __init__(self, mivo, control):
+        self.mivo = mivo
+        self.control = control
+
+    def field(self, english, role=None):
+        """Waits for the control that bears the text."""
+        names = self.mivo.texts.shown(english)
+        roles = (role,) if role else ("text", "check box", "radio button", "push button", "combo box", "spin button")
+
+        def first():
+            return next(
+                (each for each in self.control.walk() if each.role in roles and each.label in names), None
+            )
+
+        return wait_until(first, f"the field {english!r}")
+
+    def text(self, english):
+        return self.field(english, "text").text
+
+    def fill(self, english, text):
+        """Replaces the text of a field, with mouse and keyboard."""
+        field = self.field(english, "text")
+        self.mivo.input.click(field.box.middle)
+        wait_until(lambda: field.has("focused"), f"the field {english!r} to have the focus")
+        self.mivo.press("Ctrl+a")
+        if text:
+            self.mivo.type(text)
+        else:
+            self.mivo.press("Del")
+        wait_for(lambda: field.text, text, f"the text of {english!r}")
+
+    def check(self, english):
+        """Clicks a check box or radio button."""
+        field = self.field(english)
+        before = field.has("checked")
+        x, y, _, height = field.box
+        self.mivo.input.click((x + height // 2, y + height // 2))
+        wait_until(lambda: field.has("checked") != before, f"{english!r} to change")
+
+    def choose(self, english, item):
+        """Chooses an item of a list that drops down."""
+        field = self.field(english, "combo box")
+        entry = field.find(name=item, role="list item", showing=False)
+        self.mivo.input.click(field.box.middle)
+        wait_until(lambda: entry.has("showing"), f"the list of {english!r} to open")
+        # By keys: a list that has just dropped down takes a click for the end of the one that opened it.
+        self.mivo.press("Home", *["Down"] * field.find(role="list", showing=False).children.index(entry), "Enter")
+        wait_for(lambda: field.name, item, f"the choice of {english!r}")
+
+    def is_checked(self, english):
+        return self.field(english).has("checked")
+
+    def click(self, english):
+        self.mivo.input.click(self.field(english, "push button").box.middle)
+
+    def close(self, english):
+        """Clicks the button that closes the dialog."""
+        self.click(english)
+        self.wait_closed()
+
+    def press(self, *chords):
+        """Presses keys that close the dialog."""
+        self.mivo.press(*chords)
+        self.wait_closed()
+
+    def wait_closed(self):
+        def is_closed():
+            try:
+                return not self.control.has("showing")
+            except Gone:
+                return True
+
+        wait_until(is_closed, "the dialog to close")
+        # Keys sent before the window behind it is active would be lost.
+        wait_until(self.mivo.has_focus_or_ended, "another window to become active")
+
+    def enter_file(self, path):
+        """Answers the question for a file's name."""
+        field = wait_until(self._file_field, "the field of the file's name")
+        wait_until(lambda: field.has("focused"), "the field of the file's name to have the focus")
+        self.mivo.press("Ctrl+a")
+        self.mivo.type(str(path))
+        wait_for(lambda: field.text, str(path), "the file's name")
+        self.mivo.press("Enter")
+        self.wait_closed()
+
+    def proposed_file(self):
+        return wait_until(self._file_field, "the field of the file's name").text
+
+    def _file_field(self):
+        fields = [each for each in self.control.walk(skip=("list", "table", "tree table", "combo box", "tree"))
+                  if each.role == "text" and each.has("showing")]  # fmt: skip
+        return fields[0] if fields else None

@@ -1,0 +1,51 @@
+"""Pictures of the display."""
+
+import struct
+import zlib
+
+
+class Picture:
+    """A rectangle of the screen; colours are (red, green, blue)."""
+
+    def __init__(self, width, height, data):
+        self.width = width
+        self.height = height
+        self._data = data  # four bytes for a pixel: blue, green, red, unused
+
+    @staticmethod
+    def of(root, x, y, width, height):
+        image = root.get_image(x, y, width, height, 2, 0xFFFFFFFF)  # 2: whole pixels
+        return Picture(width, height, image.data)
+
+    def color(self, x, y):
+        blue, green, red = self._data[4 * (y * self.width + x) :][:3]
+        return red, green, blue
+
+    def count(self, color):
+        """How many pixels have the colour."""
+        red, green, blue = color
+        wanted = bytes((blue, green, red))
+        data = self._data
+        return sum(data[i : i + 3] == wanted for i in range(0, len(data), 4))
+
+    def __eq__(self, other):
+        return (self.width, self.height, self._data) == (other.width, other.height, other._data)
+
+    def save(self, path):
+        def chunk(kind, content):
+            checksum = struct.pack(">I", zlib.crc32(kind + content))
+            return struct.pack(">I", len(content)) + kind + content + checksum
+
+        rows = bytearray()
+        for y in range(self.height):
+            row = self._data[4 * y * self.width : 4 * (y + 1) * self.width]
+            pixels = bytearray(3 * self.width)
+            pixels[0::3], pixels[1::3], pixels[2::3] = row[2::4], row[1::4], row[0::4]
+            rows += b"\0" + pixels
+        header = struct.pack(">IIBBBBB", self.width, self.height, 8, 2, 0, 0, 0)
+        path.write_bytes(
+            b"\x89PNG\r\n\x1a\n"
+            + chunk(b"IHDR", header)
+            + chunk(b"IDAT", zlib.compress(bytes(rows), 1))
+            + chunk(b"IEND", b"")
+        )
