@@ -97,7 +97,12 @@ class Desktop:
             data=(32, [2, X.CurrentTime, 0, 0, 0]),  # 2: on behalf of the user
         )
         root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
-        self._display.sync()
+        active = self._display.intern_atom("_NET_ACTIVE_WINDOW")
+
+        def has_keyboard():
+            return root.get_full_property(active, X.AnyPropertyType).value[0] == window.id
+
+        wait_until(has_keyboard, f"the window {title!r} to get the keyboard")
 
     def close_window(self, title):
         """Asks the window to close, as the cross in its frame does."""

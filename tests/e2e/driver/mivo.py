@@ -85,6 +85,10 @@ class Mivo:
 
         return self._opened(says, f"the message {english!r}")
 
+    def wait_active(self, role):
+        """Waits for a window of the toolkit's own, whose words are not the program's."""
+        return self._opened(lambda window: window.role == role, f"a window of the kind {role!r}")
+
     def file_dialog(self):
         """Waits for the question for a file's name."""
         return self._opened(lambda window: window.all(role="file chooser") or self._asks_for_file(window), "a file dialog")
@@ -161,11 +165,11 @@ class Mivo:
 
     @property
     def status(self):
-        return "   ".join(label.name for label in self._status_bar.children if label.role == "label")
+        return "   ".join(label.name for label in self._status_labels)
 
     @cached_property
-    def _status_bar(self):
-        return self.frame.find(role="status bar")
+    def _status_labels(self):
+        return self.frame.find(role="status bar").all(role="label")
 
     def wait_status(self, english):
         """Waits until the status bar says what is expected next."""
@@ -316,13 +320,22 @@ class Dialog:
 
     def enter_file(self, path):
         """Answers the question for a file's name."""
+        self._type_file(path)
+        self.wait_closed()
+
+    def enter_existing_file(self, path):
+        """The same for a file that is there, which the user agrees to replace."""
+        self._type_file(path)
+        self.mivo.wait_active("alert message").press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
+        self.wait_closed()
+
+    def _type_file(self, path):
         field = wait_until(self._file_field, "the field of the file's name")
         wait_until(lambda: field.has("focused"), "the field of the file's name to have the focus")
         self.mivo.press("Ctrl+a")
         self.mivo.type(str(path))
         wait_for(lambda: field.text, str(path), "the file's name")
         self.mivo.press("Enter")
-        self.wait_closed()
 
     def proposed_file(self):
         return wait_until(self._file_field, "the field of the file's name").text
