@@ -24,6 +24,13 @@ int LeastSpacing(const QWidget& dialog) {
   return dialog.fontMetrics().height() / 2;
 }
 
+/// What a title needs not to be cut off, with what the desktop puts around it.
+int TitleWidth(const QWidget& dialog) {
+  constexpr int kAround = 7;  // in heights of the font: an icon, buttons, and air
+  const QFontMetrics metrics = dialog.fontMetrics();
+  return metrics.horizontalAdvance(dialog.windowTitle()) + kAround * metrics.height();
+}
+
 void SpaceControls(const QWidget& dialog) {
   for (QLayout* const layout : dialog.findChildren<QLayout*>()) {
     layout->setSpacing(std::max(layout->spacing(), LeastSpacing(dialog)));
@@ -107,6 +114,7 @@ void FormDialog::Finish(QLayout* controls, Buttons which) {
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   }
   auto* const outer = new QVBoxLayout(this);
+  outer->addStrut(TitleWidth(*this));
   outer->addLayout(controls, 1);
   outer->addSpacing(LeastSpacing(*this));
   outer->addWidget(buttons);

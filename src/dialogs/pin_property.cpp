@@ -29,20 +29,10 @@ constexpr int kNameCharacters = 32;
 constexpr int kNumberCharacters = 16;
 constexpr SRect kStyleArea{-26, -13, 40, 9};  // see PinStylePicture
 
-struct StyleButton {
-  const char* objectName;
-  TextId text;
-};
-
 // In the order of PinForm::kStyles.
-constexpr std::array<StyleButton, PinForm::kStyles.size()> kStyleButtons = {{
-    {"plainRadio", text::kPlain},
-    {"clockRadio", text::kClock},
-    {"negationRadio", text::kNegation},
-    {"negationClockRadio", text::kNegationClock},
-    {"shapeSRadio", text::kShapeS},
-    {"shapeZRadio", text::kShapeZ},
-}};
+constexpr std::array<const char*, PinForm::kStyles.size()> kStyleButtons = {
+    "plainRadio", "clockRadio", "negationRadio", "negationClockRadio", "shapeSRadio", "shapeZRadio",
+};
 
 }  // namespace
 
@@ -50,7 +40,7 @@ CPinProperty::CPinProperty(const TextTable& texts, PinValues values, const SComm
                            QWidget* parent)
     : FormDialog(texts, text::kTitle, parent), texts_(texts), form_(std::move(values)) {
   const std::u16string& name = form_.Values().name;
-  name_ = MakeLineEdit("nameEdit", text::kName, name, kNameCharacters, PinForm::kMaxNameLength);
+  name_ = MakeLineEdit("nameEdit", text::kName, name, kNameCharacters, PinValues::kMaxNameLength);
   showHide_ = MakeButton<QPushButton>("showHideButton", text::kShowHide);
   showHide_->setEnabled(!name.empty());
   connect(name_, &QLineEdit::textChanged, this,
@@ -106,13 +96,14 @@ QGroupBox* CPinProperty::MakeStyleGroup(const SCommonFont& font) {
   constexpr int kColumns = 3;
   for (int i = 0; i < static_cast<int>(kStyleButtons.size()); ++i) {
     const auto index = static_cast<std::size_t>(i);
-    const StyleButton& style = kStyleButtons[index];
-    auto* const button = Named(new QRadioButton(group), style.objectName, style.text);
-    const QPixmap picture = PinStylePicture(PinForm::kStyles[index], u"NAME", kStyleArea, font,
-                                            pixelsPerUnit, devicePixelRatio());
+    const std::int32_t style = PinForm::kStyles[index];
+    const TextId spoken = PinStyleText(style);
+    auto* const button = Named(new QRadioButton(group), kStyleButtons[index], spoken);
+    const QPixmap picture =
+        PinStylePicture(style, u"NAME", kStyleArea, font, pixelsPerUnit, devicePixelRatio());
     button->setIcon(picture);
     button->setIconSize(picture.deviceIndependentSize().toSize());
-    button->setToolTip(SpokenText(style.text));
+    button->setToolTip(SpokenText(spoken));
     styles_->addButton(button, i);
     grid->addWidget(button, i / kColumns, i % kColumns);
   }
@@ -124,7 +115,7 @@ QGroupBox* CPinProperty::MakeStyleGroup(const SCommonFont& font) {
 }
 
 void CPinProperty::ShowNumber() {
-  ShowText(*number_, form_.Number(), PinForm::kMaxNumberLength);
+  ShowText(*number_, form_.Number(), PinValues::kMaxNumberLength);
 }
 
 void CPinProperty::FollowBlockEdit() {

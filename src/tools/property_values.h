@@ -11,6 +11,10 @@
 namespace mivo {
 
 struct PinValues {
+  // Characters that can be typed; a file may hold more.
+  static constexpr int kMaxNameLength = 250;
+  static constexpr int kMaxNumberLength = 64;
+
   std::u16string name = {};  ///< as people type it, see SCompPin
   std::uint32_t nameMask = 0xFFFFFFFF;
   std::vector<std::u16string> numbers = {};  ///< one per block; empty also for an absent number

@@ -11,6 +11,7 @@
 #include "comp_editor.h"
 #include "grid_scroll.h"
 #include "pin_rows.h"
+#include "property_values.h"
 
 namespace mivo {
 
@@ -21,8 +22,6 @@ namespace mivo {
 /// given up when the pins change from elsewhere.
 class PinGrid {
  public:
-  static constexpr int kMaxNameLength = 250;   ///< that can be typed
-  static constexpr int kMaxNumberLength = 64;  ///< that can be typed
   static constexpr int kRowsPerPage = 4;
   static constexpr int kBlocksPerPage = 2;
 
@@ -65,7 +64,7 @@ class PinGrid {
   /// The text under edit, and how long typing can make it.
   [[nodiscard]] const std::u16string& EditText() const noexcept { return edit_.text; }
   [[nodiscard]] int EditTextLimit() const noexcept {
-    return edit_.kind == EditKind::Name ? kMaxNameLength : kMaxNumberLength;
+    return edit_.kind == EditKind::Name ? PinValues::kMaxNameLength : PinValues::kMaxNumberLength;
   }
   /// The entry of the style list that stands for the pin as it is.
   [[nodiscard]] std::size_t EditStyle() const noexcept { return edit_.style; }

@@ -2,8 +2,11 @@
 
 #include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QWidget>
 #include <cmath>
+
+#include "colors.h"
 
 namespace mivo {
 
@@ -17,6 +20,15 @@ QFont PinGridFont(const QWidget& widget) {
   QFont font(QStringLiteral("MS UI Gothic"));
   font.setPixelSize(static_cast<int>(std::lround(kPixels * PinGridScale(widget))));
   return font;
+}
+
+void DrawStylePicture(QPainter& painter, const QRect& cell, const QPixmap& picture) {
+  // Pins have the colours of the drawing, which show on its paper only, whatever the desktop's.
+  const Color paper = colors::kBackground;
+  painter.fillRect(cell, QColor(paper.red, paper.green, paper.blue));
+  QRect place({}, picture.deviceIndependentSize().toSize());
+  place.moveCenter(cell.center());
+  painter.drawPixmap(place.topLeft(), picture);
 }
 
 void MarkSelected(QPainter& painter, const QRect& cells, const QPalette& palette, bool hasFocus) {

@@ -5,6 +5,7 @@
 
 class QPainter;
 class QPalette;
+class QPixmap;
 class QRect;
 class QWidget;
 
@@ -16,6 +17,9 @@ namespace mivo {
 [[nodiscard]] double PinGridScale(const QWidget& widget);
 
 [[nodiscard]] QFont PinGridFont(const QWidget& widget);
+
+/// Draws the picture of a style in the middle of a cell.
+void DrawStylePicture(QPainter& painter, const QRect& cell, const QPixmap& picture);
 
 /// Marks cells, which were drawn before, as selected.
 void MarkSelected(QPainter& painter, const QRect& cells, const QPalette& palette, bool hasFocus);

@@ -5,13 +5,13 @@
 #include <QMouseEvent>
 #include <QStyle>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "dialog_texts.h"
 #include "edit_for_grid.h"
 #include "pin_grid_look.h"
 #include "pin_grid_style.h"
+#include "pin_style_picture.h"
 #include "qt_text.h"
 #include "style_chooser.h"
 
@@ -26,13 +26,6 @@ constexpr int kPicture = 72;         // width that the style list is made for
 constexpr int kRowsAtFirst = 16;
 constexpr int kMostBlocksAtFirst = 4;
 constexpr int kLeastRows = 4;
-
-// In the order of kPinGridStyles.
-constexpr std::array<TextId, kPinGridStyles.size()> kStyleTexts = {
-    dialog_text::pin_property::kPlain,  dialog_text::pin_property::kNegation,
-    dialog_text::pin_property::kClock,  dialog_text::pin_property::kNegationClock,
-    dialog_text::pin_property::kShapeS, dialog_text::pin_property::kShapeZ,
-};
 
 PinGridLayout LayoutFor(const QWidget& widget) {
   const double scale = PinGridScale(widget);
@@ -80,8 +73,8 @@ void CPinPropGrid::CreateEditors() {
   chooser_ = new StyleChooser(this);
   chooser_->setObjectName(QStringLiteral("styleChooser"));
   chooser_->setAccessibleName(ToQString(texts_.Text(text::kStyle)));
-  for (const TextId spoken : kStyleTexts) {
-    chooser_->AddStyle(ToQString(texts_.Text(spoken)));
+  for (const std::int32_t style : kPinGridStyles) {
+    chooser_->AddStyle(ToQString(texts_.Text(PinStyleText(style))));
   }
   connect(chooser_, &QComboBox::activated, this, [this](int entry) {
     grid_.ChooseStyle(static_cast<std::size_t>(entry));

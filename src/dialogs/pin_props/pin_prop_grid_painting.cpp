@@ -50,11 +50,8 @@ void CPinPropGrid::DrawRow(QPainter& painter, int row) {
   painter.setPen(palette().color(QPalette::Text));
   DrawText(painter, CellRect(row, kLocation), LocationText(pin.location));
   DrawText(painter, CellRect(row, kName), pin.DisplayName());
-  const QRect styleCell = CellRect(row, kStyle);
-  const QPixmap& picture = pictures_.Get(pin.type & SCompPin::kShapeMask, devicePixelRatioF());
-  const QSize size = picture.deviceIndependentSize().toSize();
-  painter.drawPixmap(styleCell.left() + (styleCell.width() - size.width()) / 2,
-                     styleCell.top() + (styleCell.height() - size.height()) / 2, picture);
+  DrawStylePicture(painter, CellRect(row, kStyle),
+                   pictures_.Get(pin.type & SCompPin::kShapeMask, devicePixelRatioF()));
   if ((pin.type & SCompPin::kHideNumber) != 0) DrawCheckMark(painter, CellRect(row, kHide));
   const int lastColumn = LastColumnInSight();
   for (int column = kFirstBlock; column <= lastColumn; ++column) {

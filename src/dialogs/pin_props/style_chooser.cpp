@@ -2,8 +2,8 @@
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
-#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 
 #include "pin_grid_look.h"
@@ -26,8 +26,7 @@ class PictureDelegate final : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override {
-    painter->fillRect(option.rect, option.palette.color(QPalette::Base));
-    index.data(Qt::DecorationRole).value<QIcon>().paint(painter, option.rect);
+    DrawStylePicture(*painter, option.rect, index.data(Qt::DecorationRole).value<QPixmap>());
     if (option.state.testFlag(QStyle::State_Selected)) {
       MarkSelected(*painter, option.rect, option.palette, true);
     }
@@ -50,7 +49,7 @@ void StyleChooser::AddStyle(const QString& name) {
 
 void StyleChooser::SetPicture(int entry, const QPixmap& picture) {
   setIconSize(picture.deviceIndependentSize().toSize());
-  setItemIcon(entry, picture);
+  setItemData(entry, picture, Qt::DecorationRole);
 }
 
 void StyleChooser::Open(int entry, const QRect& cell) {

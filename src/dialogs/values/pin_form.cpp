@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "comp_pin.h"
 #include "integer.h"
 #include "number_text.h"
 

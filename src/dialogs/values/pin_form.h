@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "comp_pin.h"
 #include "property_values.h"
 
 namespace mivo {
@@ -16,11 +17,13 @@ namespace mivo {
 /// blocks, and hidden parts of the name belong to the name for which they were chosen.
 class PinForm {
  public:
-  static constexpr int kMaxNameLength = 250;   ///< that can be typed
-  static constexpr int kMaxNumberLength = 64;  ///< that can be typed
-
   /// In the order of the pictures, see SCompPin::type.
-  static constexpr std::array<std::int32_t, 6> kStyles = {0, 4, 8, 12, 1, 2};
+  static constexpr std::array<std::int32_t, 6> kStyles = {0,
+                                                          SCompPin::kClock,
+                                                          SCompPin::kNegation,
+                                                          SCompPin::kNegation | SCompPin::kClock,
+                                                          SCompPin::kShapeS,
+                                                          SCompPin::kShapeZ};
 
   /// Place of a style among the pictures; nothing for a style without one.
   [[nodiscard]] static std::optional<std::size_t> StyleIndex(std::int32_t style) noexcept;
