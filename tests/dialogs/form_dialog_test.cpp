@@ -4,9 +4,14 @@
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -104,6 +109,108 @@ TEST(FormDialog, TheTextsAreTheTables) {
       EXPECT_TRUE(label->text().startsWith(QLatin1String("&T"))) << label->text().toStdString();
     }
   }
+}
+
+TEST(FormDialog, EveryTitleIsSeenWhole) {
+  const TextTable texts;
+  for (const auto& dialog : AllDialogs(texts)) {
+    Show(*dialog);
+    EXPECT_GT(dialog->width(), dialog->fontMetrics().horizontalAdvance(dialog->windowTitle()) +
+                                   5 * dialog->fontMetrics().height())
+        << dialog->windowTitle().toStdString();
+  }
+}
+
+TEST(FormDialog, EscapeCancelsEveryDialog) {
+  const TextTable texts;
+  for (const auto& dialog : AllDialogs(texts)) {
+    Show(*dialog);
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible()) << dialog->windowTitle().toStdString();
+    EXPECT_EQ(dialog->result(), QDialog::Rejected) << dialog->windowTitle().toStdString();
+  }
+}
+
+TEST(FormDialog, EnterAcceptsEveryDialogFromWhereItStarts) {
+  const TextTable texts;
+  for (const auto& dialog : AllDialogs(texts)) {
+    Show(*dialog);
+    // In a field of several lines Enter begins a line.
+    const bool hasLines = qobject_cast<QPlainTextEdit*>(dialog->focusWidget()) != nullptr;
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return,
+                    hasLines ? Qt::ControlModifier : Qt::NoModifier);
+    EXPECT_FALSE(dialog->isVisible()) << dialog->windowTitle().toStdString();
+    EXPECT_EQ(dialog->result(), QDialog::Accepted) << dialog->windowTitle().toStdString();
+  }
+}
+
+TEST(FormDialog, MnemonicsAreSharedByTwoControlsOnly) {
+  const TextTable texts;
+  const auto mnemonicOf = [](const QString& text) {
+    const qsizetype mark = text.indexOf(u'&');
+    return mark < 0 ? QString() : text.mid(mark + 1, 1).toUpper();
+  };
+  for (const auto& dialog : AllDialogs(texts)) {
+    std::map<QString, QStringList> users;
+    for (const QLabel* const label : dialog->findChildren<QLabel*>()) {
+      users[mnemonicOf(label->text())] += label->text();
+    }
+    for (const QAbstractButton* const button : dialog->findChildren<QAbstractButton*>()) {
+      users[mnemonicOf(button->text())] += button->text();
+    }
+    for (const QGroupBox* const group : dialog->findChildren<QGroupBox*>()) {
+      users[mnemonicOf(group->title())] += group->title();
+    }
+    users.erase(QString());
+    for (const auto& [letter, shown] : users) {
+      if (shown == QStringList{QStringLiteral("&Blocks"), QStringLiteral("No &Bit-pattern")}) {
+        continue;  // the same on every desktop; each press goes to the other one
+      }
+      EXPECT_EQ(shown.size(), 1) << shown.join(u' ').toStdString();
+    }
+  }
+}
+
+TEST(FormDialog, ASharedMnemonicVisitsBothAndChecksNothing) {
+  const TextTable texts;
+  CCompProperty dialog(texts, {.usePattern = true}, nullptr);
+  Show(dialog);
+  std::set<std::string> visited;
+  for (int i = 0; i < 2; ++i) {
+    QTest::keyClick(&dialog, Qt::Key_B, Qt::AltModifier);
+    visited.insert(FocusName(dialog));
+  }
+  EXPECT_EQ(visited, (std::set<std::string>{"blocksEdit", "noBitPatternCheck"}));
+  EXPECT_FALSE(Find<QAbstractButton>(dialog, "noBitPatternCheck").isChecked());
+}
+
+TEST(FormDialog, MnemonicsOfThePinDialogLeadToTheirControls) {
+  const TextTable texts;
+  CPinProperty dialog(texts, {.name = u"A", .numbers = {u"1", u"2"}}, SCommonFont(), nullptr);
+  Show(dialog);
+  const auto focusAfter = [&](Qt::Key key) {
+    QTest::keyClick(&dialog, key, Qt::AltModifier);
+    return FocusName(dialog);
+  };
+  EXPECT_EQ(focusAfter(Qt::Key_M), "numberEdit");
+  EXPECT_EQ(focusAfter(Qt::Key_B), "blockSpin");
+  EXPECT_EQ(focusAfter(Qt::Key_N), "nameEdit");
+  QTest::keyClick(&dialog, Qt::Key_H, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return Find<QAbstractButton>(dialog, "hideNumberCheck").isChecked(); }));
+}
+
+TEST(FormDialog, ARefusalClosesByEscapeAlone) {
+  const TextTable texts;
+  CCompProperty dialog(texts, {.name = u""}, nullptr);
+  Show(dialog);
+  EXPECT_TRUE(Answer<QMessageBox>([&] { Click(dialog, "okButton"); },
+                                  [](QMessageBox& box) {
+                                    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+                                    QTest::keyClick(&box, Qt::Key_Escape);
+                                  }));
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(FocusName(dialog), "nameEdit");
 }
 
 TEST(FormDialog, MnemonicsLeadToTheirFields) {

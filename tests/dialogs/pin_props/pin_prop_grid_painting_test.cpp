@@ -1,6 +1,7 @@
 // What the cells show.
 
 #include <QImage>
+#include <QPainter>
 
 #include "window_rig.h"
 
@@ -14,6 +15,42 @@ class PinPropGridPaintingTest : public WindowTest {
   /// The inside of a cell as it is on the screen, without its lines.
   QImage Picture(int row, int column) {
     return Grid().grab(Cell(row, column).adjusted(1, 1, -1, 0)).toImage();
+  }
+  /// Whether a cell shows `text` and nothing else.
+  [[nodiscard]] bool Shows(int row, int column, const QString& text) {
+    const QImage cell = Picture(row, column);
+    QImage expected(cell.size(), cell.format());
+    expected.setDevicePixelRatio(cell.devicePixelRatio());
+    expected.fill(Grid().palette().color(QPalette::Base));
+    QPainter painter(&expected);
+    painter.setFont(Grid().font());
+    painter.setPen(Grid().palette().color(QPalette::Text));
+    // One pixel of the cell is cut off at the left and at the top.
+    painter.drawText(
+        Cell(row, column).translated(-Cell(row, column).topLeft()).adjusted(3, 0, -5, -1),
+        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    painter.end();
+    return cell == expected;
+  }
+  /// Whether the headings show `text` in the middle of `place`, between lines that are left out.
+  [[nodiscard]] bool TitleShows(QRect place, const QString& text) {
+    QWidget& title = Find<QWidget>("pinGridTitle");
+    QImage expected(title.size(), QImage::Format_RGB32);
+    expected.fill(QColor(240, 240, 255));
+    QPainter painter(&expected);
+    painter.setFont(title.font());
+    painter.setPen(Qt::black);
+    painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, text);
+    painter.end();
+    const QRect inside = place.adjusted(2, 2, -2, -2);
+    return title.grab().toImage().convertToFormat(QImage::Format_RGB32).copy(inside) ==
+           expected.copy(inside);
+  }
+  [[nodiscard]] QRect TitleCell(int column, bool wholeHeight) {
+    const PinGridLayout& cells = Grid().Cells();
+    const int height = Find<QWidget>("pinGridTitle").height();
+    const int top = wholeHeight ? 0 : height / 2;
+    return {cells.Left(column), top, cells.Width(column), height - top};
   }
   [[nodiscard]] bool IsBlank(const QImage& image) {
     const QColor paper = Grid().palette().color(QPalette::Base);
@@ -31,6 +68,93 @@ TEST_F(PinPropGridPaintingTest, HeadingsHaveTheirColor) {
   const QImage title = Find<QWidget>("pinGridTitle").grab().toImage();
   EXPECT_EQ(title.pixelColor(3, 3), QColor(240, 240, 255));
   EXPECT_EQ(title.pixelColor(title.width() - 3, 3), QColor(240, 240, 255));
+}
+
+TEST_F(PinPropGridPaintingTest, HeadingsSayWhatTheColumnsHold) {
+  Show(ManyPins(3, 9));
+  EXPECT_TRUE(TitleShows(TitleCell(kLocation, true), "Loc"));
+  EXPECT_TRUE(TitleShows(TitleCell(kName, true), "Name"));
+  EXPECT_TRUE(TitleShows(TitleCell(kStyle, true), "Type"));
+  EXPECT_TRUE(TitleShows(TitleCell(kHide, false), "Hide"));
+  EXPECT_TRUE(TitleShows(TitleCell(kFirstBlock, false), "Block 1"));
+  EXPECT_TRUE(TitleShows(TitleCell(kFirstBlock + 1, false), "Block 2"));
+  BlockBar().triggerAction(QAbstractSlider::SliderToMaximum);
+  const int first = Grid().Grid().BlockScroll().First();
+  ASSERT_GT(first, 0);
+  EXPECT_TRUE(TitleShows(TitleCell(kFirstBlock, false), QString("Block %1").arg(first + 1)));
+}
+
+TEST_F(PinPropGridPaintingTest, NumSpansFromTheHideColumnToTheRightEdge) {
+  Show(ManyPins(3, 2));
+  const QWidget& title = Find<QWidget>("pinGridTitle");
+  const int left = Grid().Cells().Left(kHide);
+  EXPECT_TRUE(TitleShows({left, 0, title.width() - left, title.height() / 2}, "Num"));
+}
+
+TEST_F(PinPropGridPaintingTest, BlocksThatTheComponentDoesNotHaveHaveNoHeading) {
+  Show(ManyPins(3, 1));
+  Props().resize(900, 500);
+  ASSERT_TRUE(WaitUntil([&] { return Grid().width() > Grid().Cells().Left(kFirstBlock + 2); }));
+  EXPECT_TRUE(TitleShows(TitleCell(kFirstBlock, false), "Block 1"));
+  EXPECT_TRUE(TitleShows(TitleCell(kFirstBlock + 1, false), ""));
+}
+
+TEST_F(PinPropGridPaintingTest, CellsShowThePin) {
+  Show(MakeComponent({{PinSide::Left, 3, u"A\\B", {u"17", u"", u"x"}},
+                      {PinSide::Bottom, 12, u"", {u"18", u"19", u"y"}}},
+                     3));
+  EXPECT_TRUE(Shows(0, kLocation, "L3"));
+  EXPECT_TRUE(Shows(1, kLocation, "B12"));
+  EXPECT_TRUE(Shows(0, kName, "A\\B"));
+  EXPECT_TRUE(Shows(1, kName, ""));
+  EXPECT_TRUE(Shows(0, kFirstBlock, "17"));
+  EXPECT_TRUE(Shows(1, kFirstBlock + 1, "19"));
+  EXPECT_TRUE(Shows(1, kFirstBlock + 2, "y"));
+  Props().resize(Props().minimumSizeHint());
+  ASSERT_TRUE(WaitUntil([&] { return BlockBar().maximum() == 2; }));
+  BlockBar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  EXPECT_TRUE(Shows(1, kFirstBlock, "19"));
+}
+
+TEST_F(PinPropGridPaintingTest, ControlCharactersHaveASign) {
+  Show(MakeComponent({{PinSide::Left, 1, u"A", {u"1\n2\x7F"}}}));
+  EXPECT_TRUE(Shows(0, kFirstBlock, "1\uFFFD2\uFFFD"));
+}
+
+TEST_F(PinPropGridPaintingTest, PinsAreOnPaperAndTextsLegibleOnADarkDesktop) {
+  Show(MakeComponent({{PinSide::Left, 1, u"A", {u"1"}, SCompPin::kHideNumber}}));
+  const QImage light = Picture(0, kStyle);
+  QPalette dark = Props().palette();
+  dark.setColor(QPalette::Base, QColor(30, 30, 30));
+  dark.setColor(QPalette::Text, QColor(230, 230, 230));
+  Props().setPalette(dark);
+  EXPECT_TRUE(Shows(0, kName, "A"));
+  EXPECT_EQ(Picture(0, kLocation).pixelColor(0, 0), QColor(30, 30, 30));
+  EXPECT_FALSE(IsBlank(Picture(0, kHide)));
+  EXPECT_EQ(Picture(0, kStyle), light);
+  EXPECT_EQ(light.pixelColor(0, 0), QColor(Qt::white));
+  EXPECT_TRUE(TitleShows(TitleCell(kName, true), "Name"));
+}
+
+TEST_F(PinPropGridPaintingTest, BitsOfATypeThatMeanNothingChangeNoPicture) {
+  Show(MakeComponent({{PinSide::Left, 1, u"A", {u"1"}, SCompPin::kClock | SCompPin::kHideNumber},
+                      {PinSide::Left, 2, u"A", {u"1"}, SCompPin::kClock | 0x7FFFFF00}}));
+  EXPECT_EQ(Picture(0, kStyle), Picture(1, kStyle));
+}
+
+TEST_F(PinPropGridPaintingTest, CheckMarkStaysInItsCell) {
+  Show(MakeComponent({{PinSide::Left, 1, u"A", {u"1"}, SCompPin::kHideNumber}}));
+  const QImage cell = Picture(0, kHide);
+  const QColor paper = Grid().palette().color(QPalette::Base);
+  QRect ink;
+  for (int y = 0; y < cell.height(); ++y) {
+    for (int x = 0; x < cell.width(); ++x) {
+      if (cell.pixelColor(x, y) != paper) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  EXPECT_LE(ink.width(), 15);
+  EXPECT_LE(ink.height(), 15);
+  EXPECT_LE((ink.center() - cell.rect().center()).manhattanLength(), 3);
 }
 
 TEST_F(PinPropGridPaintingTest, HeadingsFollowTheBlocksInSight) {

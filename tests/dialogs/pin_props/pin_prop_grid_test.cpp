@@ -97,6 +97,36 @@ TEST_P(PinPropGridKeyTest, TypedTextIsKeptAndTheNextRowEdited) {
   EXPECT_TRUE(Props().isVisible());
 }
 
+TEST_F(PinPropGridTest, UpAndDownStayAtTheEnds) {
+  Click(0, kName);
+  QTest::keyClicks(&Edit(), "X");
+  QTest::keyClick(&Edit(), Qt::Key_Up);
+  EXPECT_EQ(SelectedRow(), 0);
+  ASSERT_TRUE(Edit().isVisible());
+  EXPECT_EQ(Edit().text(), "X");
+  EXPECT_EQ(Edit().selectedText(), "X");
+  Click(2, kFirstBlock);
+  QTest::keyClicks(&Edit(), "7");
+  QTest::keyClick(&Edit(), Qt::Key_Return);
+  EXPECT_EQ(SelectedRow(), 2);
+  ASSERT_TRUE(Edit().isVisible());
+  EXPECT_EQ(Edit().text(), "7");
+  EXPECT_EQ(Pin(2).GetNumber(0), u"7");
+}
+
+TEST_F(PinPropGridTest, AllOtherKeysBelongToTheText) {
+  Click(0, kName);
+  QTest::keyClicks(&Edit(), "abc");
+  QTest::keyClick(&Edit(), Qt::Key_Home);
+  QTest::keyClick(&Edit(), Qt::Key_Right);
+  QTest::keyClick(&Edit(), Qt::Key_Delete);
+  QTest::keyClick(&Edit(), Qt::Key_Left);
+  QTest::keyClick(&Edit(), Qt::Key_PageDown);
+  EXPECT_EQ(Edit().text(), "ac");
+  EXPECT_EQ(Edit().cursorPosition(), 0);
+  EXPECT_EQ(SelectedRow(), 0);
+}
+
 TEST_F(PinPropGridTest, EscapeRestoresAndLeavesTheWindowOpen) {
   Click(0, kName);
   QTest::keyClicks(&Edit(), "X");
@@ -247,6 +277,39 @@ TEST_F(PinPropGridTest, TurningAwayFromTheListChangesNothing) {
   EXPECT_FALSE(Editor().Document().SelectionChanged());
   EXPECT_TRUE(Props().isVisible());
   EXPECT_EQ(Props().focusWidget(), &Grid());
+}
+
+TEST_F(PinPropGridTest, StylesHaveTheOrderOfTheList) {
+  for (int entry = 0; entry < 6; ++entry) {
+    Click(0, kStyle);
+    QTest::keyClick(Chooser().view(), Qt::Key_Home);
+    for (int i = 0; i < entry; ++i) QTest::keyClick(Chooser().view(), Qt::Key_Down);
+    QTest::keyClick(Chooser().view(), Qt::Key_Return);
+    constexpr std::int32_t kTypes[] = {0, 8, 4, 12, 1, 2};
+    EXPECT_EQ(Pin(0).type, kTypes[entry]) << entry;
+    EXPECT_TRUE(WaitUntil([&] { return !Chooser().isVisible(); }));
+  }
+}
+
+TEST_F(PinPropGridTest, ChooserReopensOnTheStyleThatWasChosen) {
+  Click(0, kStyle);
+  QTest::keyClick(Chooser().view(), Qt::Key_Down);
+  QTest::keyClick(Chooser().view(), Qt::Key_Return);
+  EXPECT_TRUE(WaitUntil([&] { return !Chooser().isVisible(); }));
+  Click(1, kStyle);
+  EXPECT_EQ(Chooser().currentIndex(), 0);
+  QTest::keyClick(Chooser().view(), Qt::Key_Escape);
+  EXPECT_TRUE(WaitUntil([&] { return !Chooser().isVisible(); }));
+  Click(0, kStyle);
+  EXPECT_EQ(Chooser().currentIndex(), 1);
+}
+
+TEST_F(PinPropGridTest, EveryStyleInTheListHasASpokenNameAndAPicture) {
+  Click(0, kStyle);
+  for (int entry = 0; entry < Chooser().count(); ++entry) {
+    EXPECT_FALSE(Chooser().itemData(entry, Qt::AccessibleTextRole).toString().isEmpty());
+    EXPECT_FALSE(Chooser().itemData(entry, Qt::DecorationRole).value<QPixmap>().isNull());
+  }
 }
 
 // --- Hidden numbers ------------------------------------------------------------------------------

@@ -121,6 +121,11 @@ TEST_F(PinPropsTest, MovingAlongScrolls) {
   EXPECT_GT(RowBar().value(), 0);
 }
 
+TEST_F(PinPropsTest, StartsInTheTable) {
+  Show(ManyPins(3, 1));
+  EXPECT_EQ(Props().focusWidget(), &Grid());
+}
+
 TEST_F(PinPropsTest, EnterDoesNotClose) {
   Show(ManyPins(3, 1));
   QTest::keyClick(&Grid(), Qt::Key_Return);
