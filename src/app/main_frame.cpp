@@ -17,7 +17,7 @@
 #include <QToolBar>
 #include <QUrl>
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "command_actions.h"
 #include "command_icon.h"
@@ -185,6 +185,7 @@ void CMainFrame::TogglePinGrid() {
   }
   view_->SetPinGridShown(true);
   pinProps_->show();
+  pinProps_->activateWindow();  // some desktops leave the focus where it was
 }
 
 void CMainFrame::EndGridEdit() {
@@ -311,13 +312,16 @@ void CMainFrame::UpdateStatus() {
 
 void CMainFrame::MoveFocus(int direction) {
   auto* const note = pane_->findChild<QWidget*>(QStringLiteral("noteBox"));
-  const std::array<QWidget*, 3> ring = {view_, &Names(), note};
+  std::vector<QWidget*> ring = {view_, &Names(), note};
+  if (pinProps_ != nullptr && pinProps_->isVisible()) ring.push_back(pinProps_.get());
   const auto focused = std::find_if(ring.begin(), ring.end(),
                                     [](const QWidget* widget) { return widget->hasFocus(); });
   const auto count = static_cast<std::ptrdiff_t>(ring.size());
   const std::ptrdiff_t next =
       focused == ring.end() ? 0 : (focused - ring.begin() + direction + count) % count;
-  ring[static_cast<std::size_t>(next)]->setFocus(Qt::ShortcutFocusReason);
+  QWidget* const target = ring[static_cast<std::size_t>(next)];
+  target->activateWindow();
+  target->setFocus(Qt::ShortcutFocusReason);
 }
 
 void CMainFrame::ShowTitle() {

@@ -71,7 +71,7 @@ class CMainFrame final : public QMainWindow {
   void UpdateActions();
   void UpdateStatus();
   void ShowTitle();
-  /// Along view, list and note box; `direction` is 1 or -1.
+  /// Along view, list, note box and the pin grid where it is shown; `direction` is 1 or -1.
   void MoveFocus(int direction);
   void TogglePinGrid();
   /// Keeps what was typed into a cell of the pin grid.

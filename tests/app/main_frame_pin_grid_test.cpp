@@ -103,6 +103,20 @@ TEST_F(MainFramePinGridTest, SelectionGoesBothWays) {
   EXPECT_TRUE(IsEnabled(Command::Property));
 }
 
+TEST_F(MainFramePinGridTest, KeyboardIsInTheGridOnceItIsShown) {
+  Trigger(Command::PinProperty);
+  EXPECT_TRUE(WaitUntil([this] { return Grid().hasFocus(); }));
+}
+
+TEST_F(MainFramePinGridTest, F6GoesFromTheGridToTheWindowAndBack) {
+  Trigger(Command::PinProperty);
+  ASSERT_TRUE(WaitUntil([this] { return Grid().hasFocus(); }));
+  QTest::keyClick(&Grid(), Qt::Key_F6);
+  EXPECT_TRUE(WaitUntil([this] { return Frame().View().hasFocus(); }));
+  QTest::keyClick(&Frame(), Qt::Key_F6, Qt::ShiftModifier);
+  EXPECT_TRUE(WaitUntil([this] { return Grid().hasFocus(); }));
+}
+
 TEST_F(MainFramePinGridTest, EditIsUndone) {
   Trigger(Command::PinProperty);
   TypeName("X");

@@ -99,6 +99,7 @@ CPinProps::CPinProps(CompEditor& editor, const SCommonFont& labelFont, const Tex
   auto* const outer = new QVBoxLayout(this);
   outer->addWidget(table, 1);
   outer->addLayout(buttons);
+  setFocusProxy(grid_);
   grid_->setFocus();
   resize(sizeHint().boundedTo(screen()->availableSize()));
   ShowScrolling();
