@@ -33,6 +33,7 @@ class SilentHost final : public ViewHost {
   void SetCapture(bool) override {}
   void ShowContextMenu(PixelPoint) override {}
   void StateChanged() override {}
+  void Edited() override {}
   void PinsChanged() override {}
   void TogglePinGrid() override {}
   [[nodiscard]] bool IsPinGridShown() const override { return false; }

@@ -1,5 +1,6 @@
 #include "comp_edit_doc.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "integer.h"
@@ -45,7 +46,7 @@ void SCompEditDoc::DropFarObjects() {
     if (!element.IsAlive() || element.Object() == nullptr) continue;
     if (element.Object()->IsInRect(keep)) continue;
     element.MarkDeleted(Operation());
-    dirty_ = true;
+    SetDirty(true);
   }
 }
 
@@ -53,15 +54,30 @@ void SCompEditDoc::WriteBack(SComponent& component, FarObjects farObjects) {
   ReleaseSelection();
   RaiseOperation();
   if (farObjects == FarObjects::Drop) DropFarObjects();
+  CopyTo(component);
+}
 
+void SCompEditDoc::CopyTo(SComponent& component) const {
   std::vector<SCompPin> pins;
   std::vector<std::unique_ptr<SPtnObj>> objects;
-  for (const SCompEditElm& element : Elements()) {
-    if (!element.IsAlive()) continue;
+  const auto take = [&](const SCompEditElm& element) {
     if (element.Pin() != nullptr) {
       pins.push_back(*element.Pin());
     } else {
       objects.push_back(element.Object()->Clone());
+    }
+  };
+  // An unchanged selection goes back where it came from.
+  std::vector<bool> returns(Elements().size());
+  for (const SCompEditElm& element : selection_) {
+    if (!selectionChanged_ && element.Source()) returns[*element.Source()] = true;
+  }
+  for (std::size_t i = 0; i < Elements().size(); ++i) {
+    if (Elements()[i].IsAlive() || returns[i]) take(Elements()[i]);
+  }
+  if (selectionChanged_) {
+    for (const SCompEditElm& element : selection_) {
+      if (element.Object() == nullptr || element.Object()->IsValid()) take(element);
     }
   }
   component.SetBodySize(bodySize_);
@@ -75,7 +91,7 @@ bool SCompEditDoc::Undo() {
   ReleaseSelection();
   const bool changed = history_.UndoLast();
   // The mark may have been taken back since: without it the next save would miss the undo.
-  if (changed) dirty_ = true;
+  if (changed) SetDirty(true);
   return changed;
 }
 

@@ -42,6 +42,10 @@ class SCompEditDoc {
   /// Releases the selection and replaces body size, block count, pins and drawing objects of
   /// `component`. Dropping objects is an operation that can be undone. The change mark stays.
   void WriteBack(SComponent& component, FarObjects farObjects);
+  /// Puts into `component` what WriteBack would, far objects kept, and leaves the document alone.
+  void CopyTo(SComponent& component) const;
+  /// Grows with everything that may change what WriteBack gives; never starts over.
+  [[nodiscard]] std::uint64_t Revision() const noexcept { return revision_; }
 
   // --- Operations and undo ---------------------------------------------------------------------
 
@@ -59,7 +63,10 @@ class SCompEditDoc {
   /// Whether the component was changed since it was loaded, or since its frame took the mark back
   /// after writing it back.
   [[nodiscard]] bool IsDirty() const noexcept { return dirty_; }
-  void SetDirty(bool dirty) noexcept { dirty_ = dirty; }
+  void SetDirty(bool dirty) noexcept {
+    dirty_ = dirty;
+    if (dirty) ++revision_;
+  }
 
   // --- Elements --------------------------------------------------------------------------------
 
@@ -164,6 +171,7 @@ class SCompEditDoc {
   std::int32_t blocks_ = 1;
   bool dirty_ = false;
   bool selectionChanged_ = false;
+  std::uint64_t revision_ = 0;
 };
 
 }  // namespace mivo

@@ -33,6 +33,7 @@ void SCompEditDoc::UpdateSelectionRect() {
 }
 
 void SCompEditDoc::SetSelectionChanged(bool changed) {
+  if (changed || selectionChanged_) ++revision_;
   selectionChanged_ = changed;
   UpdateSelectionRect();
 }
@@ -117,7 +118,7 @@ bool SCompEditDoc::ReleaseSelection() {
       element.ForgetSource();
       history_.Append(std::move(element));
     }
-    dirty_ = true;
+    SetDirty(true);
   } else {
     for (const SCompEditElm& element : released) {
       if (element.Source()) history_.At(*element.Source()).Revive();
@@ -130,10 +131,10 @@ bool SCompEditDoc::DeleteSelection() {
   if (selection_.empty()) return false;
   if (std::any_of(selection_.begin(), selection_.end(),
                   [](const SCompEditElm& e) { return e.Source().has_value(); })) {
-    dirty_ = true;
+    SetDirty(true);
   }
   selection_.clear();
-  selectionChanged_ = false;
+  if (std::exchange(selectionChanged_, false)) ++revision_;
   return true;
 }
 

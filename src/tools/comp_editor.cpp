@@ -281,6 +281,12 @@ void CompEditor::Settle() {
     state_ = std::move(state);
     session_.ports.host.StateChanged();
   }
+  const std::uint64_t revision = session_.document.Revision();
+  // A dialog takes the capture, and the release of the button with it.
+  const bool inGesture = leftDown_ && session_.HasCapture();
+  if (!inGesture && std::exchange(toldRevision_, revision) != revision) {
+    session_.ports.host.Edited();
+  }
 }
 
 CursorShape CompEditor::Cursor() const {

@@ -143,6 +143,7 @@ class CompEditor {
   std::optional<NewNodePlace> newNode_;
   CursorShape cursor_ = CursorShape::Arrow;
   State state_;
+  std::uint64_t toldRevision_ = 0;
 };
 
 }  // namespace mivo

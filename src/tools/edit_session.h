@@ -43,6 +43,7 @@ class EditSession {
   void Flush();
 
   void SetCapture(bool on);
+  [[nodiscard]] bool HasCapture() const noexcept { return captured_; }
   /// Lets the window show what has happened and gives the mouse free. The release of the button
   /// that was pressed will go to the dialog, if anywhere.
   void PrepareForDialog();

@@ -27,6 +27,8 @@ class ViewHost {
 
   /// A command may have become possible or impossible, checked or unchecked, or the hint changed.
   virtual void StateChanged() = 0;
+  /// An operation is complete, and a commit now would give something else than before it.
+  virtual void Edited() = 0;
   /// Pins came, went or changed: pointers to them are void.
   virtual void PinsChanged() = 0;
   /// Shows the pin grid, or hides it when it is shown.

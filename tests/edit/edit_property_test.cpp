@@ -103,6 +103,16 @@ class Editor {
     RC_ASSERT(Shown(doc_) == loaded_);
   }
 
+  /// A copy gives what a write-back would, before that is done.
+  void CopyThenWriteBack() {
+    const std::string shown = Shown(doc_) + Selected(doc_);
+    const std::string copied = Copied();
+    RC_ASSERT(Shown(doc_) + Selected(doc_) == shown);
+    doc_.WriteBack(component_, SCompEditDoc::FarObjects::Keep);
+    RC_ASSERT(RecordOf(component_) == copied);
+    RC_ASSERT(Copied() == copied);
+  }
+
   void WriteBackAndReload() {
     doc_.WriteBack(component_, SCompEditDoc::FarObjects::Keep);
     SCompEditDoc reloaded;
@@ -111,6 +121,12 @@ class Editor {
   }
 
  private:
+  [[nodiscard]] std::string Copied() const {
+    SComponent copy = component_;
+    doc_.CopyTo(copy);
+    return RecordOf(copy);
+  }
+
   void RememberShown() { before_[doc_.Operation()] = Shown(doc_); }
 
   void BeginOperation() {
@@ -198,6 +214,11 @@ class Editor {
       RC_ASSERT(element.IsAlive());
       if (element.Source()) RC_ASSERT(!doc_.Elements()[*element.Source()].IsAlive());
     }
+    // Nothing that a write-back would give changes without a new revision.
+    const std::string copied = Copied();
+    RC_ASSERT(copied == copied_ || doc_.Revision() != revision_ || copied_.empty());
+    copied_ = copied;
+    revision_ = doc_.Revision();
     // A document that shows anything else than was loaded or written back last knows it.
     if (doc_.Selection().empty() && !doc_.IsDirty()) {
       SCompEditDoc reloaded;
@@ -210,6 +231,8 @@ class Editor {
   SCompEditDoc doc_;
   FakeClipboard clipboard_;
   std::string loaded_;
+  std::string copied_;  ///< and its revision, after the last step
+  std::uint64_t revision_ = 0;
   std::map<std::int32_t, std::string> before_;
 };
 
@@ -218,6 +241,13 @@ RC_GTEST_PROP(EditProperty, EveryUndoGivesThePreviousDocumentAndEnoughOfThemTheL
   Editor editor(recipe);
   for (const EditStep& step : steps) editor.Perform(step);
   editor.UndoAll();
+}
+
+RC_GTEST_PROP(EditProperty, ACopyIsWhatAWriteBackWouldGive,
+              (ComponentRecipe recipe, const std::vector<EditStep>& steps)) {
+  Editor editor(recipe);
+  for (const EditStep& step : steps) editor.Perform(step);
+  editor.CopyThenWriteBack();
 }
 
 RC_GTEST_PROP(EditProperty, WriteBackThenLoadGivesWhatTheDocumentShowed,

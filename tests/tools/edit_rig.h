@@ -30,6 +30,7 @@ class FakeHost final : public ViewHost {
   void ShowContextMenu(PixelPoint at) override {
     calls.push_back("menu@" + std::to_string(at.x) + "," + std::to_string(at.y));
   }
+  void Edited() override { ++operations; }
   void StateChanged() override { calls.emplace_back("state"); }
   void PinsChanged() override { calls.emplace_back("pins"); }
   void TogglePinGrid() override {
@@ -40,6 +41,7 @@ class FakeHost final : public ViewHost {
 
   std::vector<std::string> calls;
   CursorShape cursor = CursorShape::Arrow;
+  int operations = 0;  ///< how often an operation was told to be complete
   bool captured = false;
   bool gridShown = false;
   bool wantsFront = false;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "notation.h"
+#include "record_text.h"
 #include "sequence_player.h"
 #include "text_encoding.h"
 
@@ -154,6 +155,34 @@ RC_GTEST_PROP(RandomSequence, AReleasedMouseLeavesNoGestureBehind, ()) {
   rig.editor.ReleaseRight({10, 10});
   RC_ASSERT(DescribeSelection(rig.editor.Document()) == before);
   RC_ASSERT(!rig.host.captured);
+}
+
+/// What a commit would make of the component now.
+std::u16string CommitWouldGive(const CompEditor& editor) {
+  SComponent copy = *editor.Component();
+  editor.Document().CopyTo(copy);
+  return WrittenText([&copy](SRecordWriter& writer) { copy.Write(writer, u"TEST"); });
+}
+
+RC_GTEST_PROP(RandomSequence, EveryCompletedOperationIsTold, ()) {
+  SequencePlayer player;
+  PlayAll(player, {});
+  EditRig& rig = player.Rig();
+  RC_ASSERT(!player.Do("leave"));  // the first step that is none opens the component
+  std::u16string before = CommitWouldGive(rig.editor);
+  int told = rig.host.operations;
+  for (const std::string& step : *RandomSteps()) {
+    const std::optional<std::string> wrong = player.Do(step);
+    if (wrong) RC_FAIL(Concat({step, ": ", *wrong}));
+    if (rig.host.captured) continue;  // a gesture is no operation before it ends
+    const std::u16string now = CommitWouldGive(rig.editor);
+    // Who opens a component without a commit means to drop what was done.
+    if (now != before && rig.host.operations == told && step != "reopen") {
+      RC_FAIL(Concat({step, " was not told"}));
+    }
+    before = now;
+    told = rig.host.operations;
+  }
 }
 
 // --- Clipboard -----------------------------------------------------------------------------------

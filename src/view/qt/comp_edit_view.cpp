@@ -221,6 +221,10 @@ void CCompEditView::ShowContextMenu(PixelPoint at) {
   emit ContextMenuRequested(viewport()->mapToGlobal(position.toPoint()));
 }
 
+void CCompEditView::Edited() {
+  emit OperationCompleted();
+}
+
 void CCompEditView::StateChanged() {
   emit CommandsChanged();
 }

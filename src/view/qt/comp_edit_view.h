@@ -35,6 +35,8 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
  signals:
   /// A command may have become possible or impossible, or the tool expects something else.
   void CommandsChanged();
+  /// An operation is complete, and a commit now would give something else than before it.
+  void OperationCompleted();
   /// Pins came, went or changed: pointers to them are void.
   void PinsEdited();
   void PinGridToggled();
@@ -64,6 +66,7 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   void SetCapture(bool on) override;
   void ShowContextMenu(PixelPoint at) override;
   void StateChanged() override;
+  void Edited() override;
   void PinsChanged() override;
   void TogglePinGrid() override;
   [[nodiscard]] bool IsPinGridShown() const override { return pinGridShown_; }

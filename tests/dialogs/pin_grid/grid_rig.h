@@ -27,6 +27,7 @@ class GridHost final : public ViewHost {
   void SetCapture(bool) override {}
   void ShowContextMenu(PixelPoint) override {}
   void StateChanged() override {}
+  void Edited() override {}
   void PinsChanged() override {
     ++pinChanges;
     if (pinsChanged) pinsChanged();
