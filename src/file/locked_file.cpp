@@ -39,6 +39,10 @@ bool LockedFile::Write(std::string_view bytes) {
   return file_ != nullptr && !file_->Write(bytes);
 }
 
+bool LockedFile::Flush() {
+  return file_ != nullptr && !file_->Flush();
+}
+
 void LockedFile::Release() noexcept {
   file_.reset();
   path_.clear();

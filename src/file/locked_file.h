@@ -34,6 +34,9 @@ class LockedFile {
   /// all of it could be written, and when nothing is held.
   [[nodiscard]] bool Write(std::string_view bytes);
 
+  /// Returns once what was written is on the disk; false when it may not be.
+  [[nodiscard]] bool Flush();
+
   /// Lets go of the file and leaves it there.
   void Release() noexcept;
   /// Lets go of the file and removes it.
