@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "elf_file.h"
 #include "mivo_language.h"
 #include "text_encoding.h"
 
@@ -28,6 +29,9 @@ MivoLanguageFunction LoadFunction(const std::filesystem::path& path) {
   return reinterpret_cast<MivoLanguageFunction>(
       reinterpret_cast<void*>(GetProcAddress(library, MIVO_LANGUAGE_FUNCTION)));
 #else
+#ifdef __linux__
+  if (!IsWholeElfFile(path)) return nullptr;
+#endif
   void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return nullptr;
   return reinterpret_cast<MivoLanguageFunction>(dlsym(library, MIVO_LANGUAGE_FUNCTION));

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "mivo_language.h"
 #include "temp_folder.h"
@@ -91,14 +92,25 @@ INSTANTIATE_TEST_SUITE_P(Contents, NoLanguageLibrary,
                          testing::Values(std::string(), std::string("This is a text."),
                                          std::string(10000, '\0'), std::string("MZ\x90\0", 4)));
 
-TEST(LanguageLibrary, CutOffInItsHeaderIsIgnored) {
+// The system's loader ends the process when it touches what is missing.
+TEST(LanguageLibrary, CutOffAnywhereIsIgnored) {
   const TempFolder folder;
   const std::string whole = BytesOf(LibraryPath("good"));
-  ASSERT_GT(whole.size(), 1000u);
-  for (const std::size_t size : {1u, 4u, 16u, 63u, 64u, 65u, 200u}) {
+  ASSERT_GT(whole.size(), 10000u);
+  std::vector<std::size_t> sizes = {1, 4, 16, 63, 64, 65, 200, whole.size() - 1};
+  for (std::size_t size = 300; size < whole.size(); size += 123) sizes.push_back(size);
+  for (const std::size_t size : sizes) {
     const fs::path cut = folder.Put(kLanguageLibraryName, whole.substr(0, size));
     EXPECT_FALSE(LoadLanguageLibrary(cut)) << size;
   }
+  EXPECT_TRUE(LoadLanguageLibrary(folder.Put(kLanguageLibraryName, whole)));
+}
+
+TEST(LanguageLibrary, OfAnotherMachineIsIgnored) {
+  const TempFolder folder;
+  std::string bytes = BytesOf(LibraryPath("good"));
+  bytes[4] = static_cast<char>(3 - bytes[4]);  // 32 bits for 64, and the other way round
+  EXPECT_FALSE(LoadLanguageLibrary(folder.Put(kLanguageLibraryName, bytes)));
 }
 
 TEST(LanguageLibrary, FolderOrPipeOfThatNameIsIgnored) {
