@@ -26,6 +26,9 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   [[nodiscard]] const SCommonFont& CommonFont() const noexcept { return commonFont_; }
   void SetCommonFont(const SCommonFont& font);
 
+  /// Where pins and drawing objects are put and taken; the frame's whole components go there, too.
+  [[nodiscard]] QtTextClipboard& Clipboard() noexcept { return clipboard_; }
+
   /// The component point under the mouse; nothing when the mouse is elsewhere.
   [[nodiscard]] std::optional<SPoint> MousePoint() const;
 

@@ -5,12 +5,14 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "qt_text.h"
+
 namespace mivo {
 namespace {
 
 QFont MakeFont(const Font& font, QFont::StyleStrategy edges) {
   QFont made;
-  made.setFamilies({QString::fromStdU16String(font.face)});  // a comma in a name separates nothing
+  made.setFamilies({ToQString(font.face)});  // a comma in a name separates nothing
   made.setPixelSize(font.height);
   made.setWeight(static_cast<QFont::Weight>(std::clamp(font.weight, 1, 1000)));
   made.setItalic(font.italic);

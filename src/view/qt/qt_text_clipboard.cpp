@@ -7,6 +7,38 @@
 #include "qt_text.h"
 
 namespace mivo {
+namespace {
+
+bool IsActive() {
+  return QGuiApplication::applicationState() == Qt::ApplicationActive;
+}
+
+std::optional<std::u16string> FetchRecords() {
+  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+  if (data == nullptr || !data->hasText()) return std::nullopt;
+  const QString text = data->text();
+  if (!text.startsWith(QLatin1Char('+'))) return std::nullopt;
+  return ToText(text);
+}
+
+}  // namespace
+
+QtTextClipboard::QtTextClipboard() : isKnown_(!IsActive()) {
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+    isKnown_ = false;
+    TellOfChange();
+  });
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this] {
+    if (!tellWhenActive_ || !IsActive()) return;
+    isKnown_ = false;
+    TellOfChange();
+  });
+}
+
+void QtTextClipboard::TellOfChange() {
+  tellWhenActive_ = !IsActive() && !QGuiApplication::clipboard()->ownsClipboard();
+  if (!tellWhenActive_) emit Changed();
+}
 
 bool QtTextClipboard::SetText(std::u16string_view text) {
   QGuiApplication::clipboard()->setText(ToQString(text));
@@ -14,9 +46,11 @@ bool QtTextClipboard::SetText(std::u16string_view text) {
 }
 
 std::optional<std::u16string> QtTextClipboard::GetText() {
-  const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
-  if (data == nullptr || !data->hasText()) return std::nullopt;
-  return data->text().toStdU16String();
+  if (!isKnown_) {
+    text_ = FetchRecords();
+    isKnown_ = true;
+  }
+  return text_;
 }
 
 }  // namespace mivo
