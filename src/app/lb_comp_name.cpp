@@ -5,6 +5,8 @@
 #include <QStyledItemDelegate>
 #include <utility>
 
+#include "qt_text.h"
+
 namespace mivo {
 namespace {
 
@@ -45,9 +47,8 @@ class NameDelegate final : public QStyledItemDelegate {
     if (isSelected) DrawFocusFrame(*painter, option.rect, color);
     painter->setFont(font_);
     painter->setPen(color);
-    painter->drawText(
-        textRect.adjusted(2, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-        QString::fromUtf16(entry->Name().data(), static_cast<qsizetype>(entry->Name().size())));
+    painter->drawText(textRect.adjusted(2, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                      ToQString(entry->Name()));
   }
 
  private:
@@ -101,7 +102,7 @@ int NameListModel::rowCount(const QModelIndex& parent) const {
 QVariant NameListModel::data(const QModelIndex& index, int role) const {
   NameEntry* const entry = Entry(index.row());
   if (entry == nullptr || role != Qt::DisplayRole) return {};
-  return QString::fromUtf16(entry->Name().data(), static_cast<qsizetype>(entry->Name().size()));
+  return ToQString(entry->Name());
 }
 
 SLBCompName::SLBCompName(QWidget* parent) : QListView(parent) {

@@ -5,6 +5,7 @@
 namespace mivo {
 
 void LoadNote::Report(const Finding& finding) {
+  if (finding.kind == FindingKind::LaterVersion) isLaterVersion_ = true;
   const bool isError = SeverityOf(finding.kind) == Severity::Error;
   if (!isError && finding.kind != FindingKind::DataCutOff) return;
   const bool keptIsError = finding_ && SeverityOf(finding_->kind) == Severity::Error;

@@ -16,11 +16,15 @@ class LoadNote final : public FindingSink {
  public:
   void Report(const Finding& finding) override;
 
+  /// The file says that a later version wrote it.
+  [[nodiscard]] bool IsLaterVersion() const noexcept { return isLaterVersion_; }
+
   /// "Line 12: what happened"; empty when nothing did.
   [[nodiscard]] QString Text(const TextTable& texts) const;
 
  private:
   std::optional<Finding> finding_;
+  bool isLaterVersion_ = false;
 };
 
 }  // namespace mivo

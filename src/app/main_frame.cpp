@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
@@ -22,6 +21,8 @@
 #include "command_actions.h"
 #include "command_icon.h"
 #include "comp_edit_view.h"
+#include "key_lock_panes.h"
+#include "key_locks.h"
 #include "lb_comp_name.h"
 #include "name_pane.h"
 #include "pin_props.h"
@@ -89,10 +90,8 @@ void CMainFrame::CreateParts() {
   actions_->FillToolBar(*toolBar);
 
   statusBar()->addWidget(status_, 1);
-  for (const StringId key : {StringId::CapsLock, StringId::NumLock, StringId::ScrollLock}) {
-    auto* const indicator = new QLabel(ToQString(texts_.Text(key)), this);
-    indicator->setEnabled(false);
-    statusBar()->addPermanentWidget(indicator);
+  for (QLabel* const pane : (new KeyLockPanes(texts_, &ReadKeyLocks, this))->Panes()) {
+    statusBar()->addPermanentWidget(pane);
   }
 
   auto* const dock = new QDockWidget(this);
@@ -134,10 +133,12 @@ void CMainFrame::CreateParts() {
   connect(
       qApp, &QGuiApplication::commitDataRequest, this,
       [this](QSessionManager& session) {
-        if ((busy_ || session.allowsInteraction()) && !MayLeaveLibrary()) session.cancel();
+        if (!busy_ && !session.allowsInteraction()) return;
+        if (!MayEndSession()) session.cancel();
+        if (!busy_) session.release();
       },
       Qt::DirectConnection);
-  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &CMainFrame::UpdateActions);
+  connect(&view_->Clipboard(), &QtTextClipboard::Changed, this, &CMainFrame::UpdateActions);
 }
 
 void CMainFrame::ReadSettings() {
@@ -255,6 +256,8 @@ void CMainFrame::Execute(Command command) {
 }
 
 void CMainFrame::UpdateActions() {
+  // The user, or something that happened, has gone on after the session's end was agreed to.
+  mayEnd_ = false;
   const CompEditor& editor = view_->Editor();
   const int row = Names().SelectedRow();
   const int count = Names().Names().rowCount();
@@ -285,7 +288,7 @@ void CMainFrame::UpdateActions() {
         enabled = row >= 0;
         break;
       case Command::PasteComponent:
-        enabled = CanPasteComponent(QGuiApplication::clipboard()->text().toStdU16String());
+        enabled = CanPasteComponent(view_->Clipboard().GetText().value_or(u""));
         break;
       case Command::SortByName:
         enabled = count >= 2;
@@ -327,7 +330,7 @@ void CMainFrame::MoveFocus(int direction) {
 void CMainFrame::ShowTitle() {
   QString title = QStringLiteral("Mivo");
   if (doc_.Path() && !doc_.Path()->empty()) {
-    title += QStringLiteral(" - ") + QString::fromStdU16String(*doc_.Path());
+    title += QStringLiteral(" - ") + ToQString(*doc_.Path());
   }
   setWindowTitle(title);
 }
@@ -344,9 +347,14 @@ bool CMainFrame::event(QEvent* event) {
   return true;
 }
 
+bool CMainFrame::MayEndSession() {
+  mayEnd_ = MayLeaveLibrary();
+  return mayEnd_;
+}
+
 void CMainFrame::closeEvent(QCloseEvent* event) {
   closeHeldBack_ = busy_;
-  event->setAccepted(MayLeaveLibrary());
+  event->setAccepted((mayEnd_ && !busy_) || MayLeaveLibrary());
 }
 
 void CMainFrame::resizeEvent(QResizeEvent* event) {

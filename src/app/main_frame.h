@@ -47,6 +47,10 @@ class CMainFrame final : public QMainWindow {
   /// The file belongs to another program that waits for it: it can be saved, but not elsewhere.
   void SetTemporaryFileMode();
 
+  /// Asks about changes because the desktop session ends; false to keep it from ending. Nothing is
+  /// asked again when the window is closed then.
+  [[nodiscard]] bool MayEndSession();
+
   [[nodiscard]] bool IsModified() const noexcept { return modified_; }
   [[nodiscard]] const SMivoDoc& Library() const noexcept { return doc_; }
   [[nodiscard]] CCompEditView& View() const noexcept { return *view_; }
@@ -118,6 +122,7 @@ class CMainFrame final : public QMainWindow {
   SMivoDoc doc_;
   bool modified_ = false;
   bool temporaryFileMode_ = false;
+  bool mayEnd_ = false;  ///< nothing has happened since the session's end was agreed to
   SCompEditDoc::FarObjects farObjects_ = SCompEditDoc::FarObjects::Keep;
   TaskProgress::Clock clock_ = &std::chrono::steady_clock::now;
   bool busy_ = false;               ///< the library is being read or written

@@ -1,7 +1,5 @@
 // Components and their names: the selection, the clipboard, the order of the list.
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <algorithm>
 
 #include "comp_edit_view.h"
@@ -22,7 +20,7 @@ void CMainFrame::HandToView(NameEntry* entry) {
   SComponent* const component = entry != nullptr ? entry->Component() : nullptr;
   view_->Editor().SetComponent(component);
   startLabel_->setVisible(component == nullptr);
-  pane_->ShowNote(component != nullptr ? QString::fromStdU16String(component->note) : QString());
+  pane_->ShowNote(component != nullptr ? component->note : u"");
 }
 
 void CMainFrame::ShowSelectedComponent() {
@@ -57,7 +55,7 @@ void CMainFrame::CopyComponent() {
   NameEntry* const entry = Names().SelectedEntry();
   if (entry == nullptr) return;
   const std::u16string text = WriteComponentText(*entry);
-  if (!text.empty()) QGuiApplication::clipboard()->setText(QString::fromStdU16String(text));
+  if (!text.empty()) static_cast<void>(view_->Clipboard().SetText(text));
 }
 
 void CMainFrame::CutComponent() {
@@ -76,9 +74,9 @@ void CMainFrame::CutComponent() {
 }
 
 void CMainFrame::PasteComponent() {
-  const std::u16string text = QGuiApplication::clipboard()->text().toStdU16String();
-  if (!CanPasteComponent(text)) return;
-  NameEntry* const entry = PasteComponentText(doc_, text);
+  const std::optional<std::u16string> text = view_->Clipboard().GetText();
+  if (!text || !CanPasteComponent(*text)) return;
+  NameEntry* const entry = PasteComponentText(doc_, *text);
   if (entry == nullptr) return;
   CommitEdit();
   InsertName(entry);

@@ -27,7 +27,7 @@ QString ProposedName(const QString& path) {
 }
 
 QString PathOf(const SMivoDoc& doc) {
-  return doc.Path() ? QString::fromStdU16String(*doc.Path()) : QString();
+  return doc.Path() ? ToQString(*doc.Path()) : QString();
 }
 
 }  // namespace
@@ -95,7 +95,7 @@ bool CMainFrame::SaveAs() {
 
 bool CMainFrame::WriteTo(const QString& path) {
   CommitEdit();
-  const std::u16string pathText = path.toStdU16String();
+  const std::u16string pathText = ToText(path);
   FileWriter file(PathFromText(pathText));
   if (!WriteInto(file, path)) {
     status_->ShowNote(QString::fromStdString(file.ErrorText()));

@@ -29,7 +29,7 @@ CMainFrame::LoadOutcome CMainFrame::LoadFrom(const QString& path) {
   const auto end = qScopeGuard([this] { EndTask(); });
   TaskProgress progress(*status_, TaskText(texts_, StringId::Opening, path), kLoadSteps, clock_);
 
-  const std::u16string pathText = path.toStdU16String();
+  const std::u16string pathText = ToText(path);
   const FileResult<std::string> content = ReadFile(PathFromText(pathText), &progress);
   if (!content.Ok()) {
     return {QFileInfo(path).fileName() + QStringLiteral(": ") +
@@ -39,7 +39,7 @@ CMainFrame::LoadOutcome CMainFrame::LoadFrom(const QString& path) {
   LoadNote note;
   // What was read before a fault stays, without a path.
   static_cast<void>(doc_.Load(content.Value(), pathText, &note, &progress));
-  return {note.Text(texts_), doc_.Version() > SMivoDoc::kVersion};
+  return {note.Text(texts_), note.IsLaterVersion()};
 }
 
 bool CMainFrame::WriteInto(FileWriter& file, const QString& path) {

@@ -26,7 +26,7 @@ constexpr std::int32_t kMinHeight = 300;
 constexpr QSize kDefaultSize(1100, 720);
 
 std::filesystem::path FolderOf(const QString& path) {
-  return PathFromText(path.toStdU16String());
+  return PathFromText(ToText(path));
 }
 
 SettingsFolders FindSettingsFolders() {

@@ -1,11 +1,11 @@
 #include "name_pane.h"
 
 #include <QAction>
-#include <QPlainTextEdit>
 #include <QToolButton>
 
 #include "command_actions.h"
 #include "lb_comp_name.h"
+#include "note_edit.h"
 #include "qt_text.h"
 
 namespace mivo {
@@ -22,11 +22,12 @@ NamePane::NamePane(const CommandActions& actions, const TextTable& texts, QWidge
       moveUp_(CreateButton(actions.Action(Command::MoveNameUp))),
       moveDown_(CreateButton(actions.Action(Command::MoveNameDown))),
       list_(new SLBCompName(this)),
-      note_(new QPlainTextEdit(this)) {
+      note_(new NoteEdit(0, 0, this)) {
   list_->setAccessibleName(ToQString(texts.Text(StringId::NameListName)));
   note_->setObjectName(QStringLiteral("noteBox"));
   note_->setAccessibleName(ToQString(texts.Text(StringId::NoteName)));
   note_->setReadOnly(true);
+  note_->setAcceptDrops(false);  // a file dropped there is meant for the window
   note_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   // The note box covers the list's lower edge: its last row must stay in sight all the same.
   list_->SetCoveredBelow(kGap);
@@ -43,8 +44,8 @@ QToolButton* NamePane::CreateButton(QAction* action) {
   return button;
 }
 
-void NamePane::ShowNote(const QString& note) {
-  note_->setPlainText(note);
+void NamePane::ShowNote(std::u16string_view note) {
+  note_->SetContent(note);
 }
 
 QSize NamePane::sizeHint() const {

@@ -2,13 +2,14 @@
 #define MIVO_APP_NAME_PANE_H
 
 #include <QWidget>
+#include <string_view>
 
-class QPlainTextEdit;
 class QToolButton;
 
 namespace mivo {
 
 class CommandActions;
+class NoteEdit;
 class SLBCompName;
 class TextTable;
 
@@ -21,7 +22,7 @@ class NamePane final : public QWidget {
   NamePane(const CommandActions& actions, const TextTable& texts, QWidget* parent = nullptr);
 
   [[nodiscard]] SLBCompName& List() const noexcept { return *list_; }
-  void ShowNote(const QString& note);
+  void ShowNote(std::u16string_view note);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -35,7 +36,7 @@ class NamePane final : public QWidget {
   QToolButton* moveUp_;
   QToolButton* moveDown_;
   SLBCompName* list_;
-  QPlainTextEdit* note_;
+  NoteEdit* note_;
 };
 
 }  // namespace mivo

@@ -19,6 +19,7 @@ NoteEdit::NoteEdit(int visibleCharacters, int visibleLines, QWidget* parent)
 
 void NoteEdit::SetContent(std::u16string_view content) {
   content_ = content;
+  clear();  // the earlier text is not laid out in the way of the new one
   PrepareFor(static_cast<qsizetype>(content.size()));
   setPlainText(ToQString(content));
   shown_ = document()->toRawText();
@@ -59,7 +60,8 @@ void NoteEdit::insertFromMimeData(const QMimeData* source) {
 /// hundred thousand letters in one piece.
 void NoteEdit::PrepareFor(qsizetype length) {
   constexpr qsizetype kLongText = 10'000;
-  if (length > kLongText) setWordWrapMode(QTextOption::WrapAnywhere);
+  setWordWrapMode(length > kLongText ? QTextOption::WrapAnywhere
+                                     : QTextOption::WrapAtWordBoundaryOrAnywhere);
 }
 
 }  // namespace mivo

@@ -182,7 +182,7 @@ TEST_F(MainFrameFileTest, TemporaryFileModeForbidsSaveAs) {
 
 // --- The save question, on every way out -------------------------------------------------------
 
-enum class WayOut { New, Open, Drop, Close };
+enum class WayOut { New, Open, Drop, Close, SessionEnd };
 
 void PrintTo(WayOut way, std::ostream* stream) {
   *stream << static_cast<int>(way);
@@ -218,6 +218,8 @@ class SaveQuestionTest : public MainFrameFileTest, public testing::WithParamInte
       }
       case WayOut::Close:
         return Frame().close();
+      case WayOut::SessionEnd:
+        return Frame().MayEndSession();
     }
     return false;
   }
@@ -253,13 +255,37 @@ TEST_P(SaveQuestionTest, YesWithASaveThatFailsKeepsEverything) {
   EXPECT_EQ(ListedNames(), "[first] second");
 }
 
+TEST_P(SaveQuestionTest, YesWithoutAPathAsksForOne) {
+  // A failed load leaves a library without a path.
+  Put("bad.ZLB", "+TARSL_LIB_V.1.0\nVER:82\n" + ComponentRecord("kept") + "+COMP,N:x\nX:-1\n");
+  Frame().Open(PathOf("bad.ZLB"));
+  EditSelectedComponent();
+  Prompts().saveAnswers = {SaveAnswer::Save};
+  Prompts().savePaths = {PathOf("rescued.ZLB")};
+  EXPECT_TRUE(Leave());
+  EXPECT_EQ(Prompts().proposedNames, std::vector{QStringLiteral("Untitled.ZLB")});
+  EXPECT_NE(Content("rescued.ZLB"), "");
+}
+
+TEST_P(SaveQuestionTest, YesAndThenNoPathKeepsEverything) {
+  Put("bad.ZLB", "+TARSL_LIB_V.1.0\nVER:82\n" + ComponentRecord("kept") + "+COMP,N:x\nX:-1\n");
+  Frame().Open(PathOf("bad.ZLB"));
+  EditSelectedComponent();
+  Prompts().saveAnswers = {SaveAnswer::Save};
+  Prompts().savePaths = {QString()};
+  EXPECT_FALSE(Leave());
+  EXPECT_TRUE(Frame().IsModified());
+  EXPECT_EQ(ListedNames(), "[kept]");
+}
+
 TEST_P(SaveQuestionTest, NothingIsAskedAfterASave) {
   Trigger(Command::Save);
   EXPECT_TRUE(Leave());
 }
 
 INSTANTIATE_TEST_SUITE_P(WaysOut, SaveQuestionTest,
-                         testing::Values(WayOut::New, WayOut::Open, WayOut::Drop, WayOut::Close),
+                         testing::Values(WayOut::New, WayOut::Open, WayOut::Drop, WayOut::Close,
+                                         WayOut::SessionEnd),
                          [](const auto& test) {
                            switch (test.param) {
                              case WayOut::New:
@@ -270,9 +296,55 @@ INSTANTIATE_TEST_SUITE_P(WaysOut, SaveQuestionTest,
                                return "Drop";
                              case WayOut::Close:
                                return "Close";
+                             case WayOut::SessionEnd:
+                               return "SessionEnd";
                            }
                            return "";
                          });
+
+TEST_F(MainFrameFileTest, WindowClosesUnaskedOnceTheSessionMayEnd) {
+  OpenParts();
+  EditSelectedComponent();
+  Prompts().saveAnswers = {SaveAnswer::Discard};
+  EXPECT_TRUE(Frame().MayEndSession());
+  EXPECT_TRUE(Frame().close());
+}
+
+TEST_F(MainFrameFileTest, WindowAsksAgainWhenTheSessionWentOn) {
+  OpenParts();
+  EditSelectedComponent();
+  Prompts().saveAnswers = {SaveAnswer::Discard, SaveAnswer::Cancel};
+  EXPECT_TRUE(Frame().MayEndSession());
+  Trigger(Command::Undo);
+  EXPECT_FALSE(Frame().close());
+  EXPECT_TRUE(Prompts().saveAnswers.empty());
+}
+
+TEST_F(MainFrameFileTest, GarbageAfterALaterVersionIsOfNoVersion) {
+  Put("later.ZLB", "+TARSL_LIB_V.1.0\nVER:83\n-TARSL_LIB_V.1.0\n");
+  Frame().Open(PathOf("later.ZLB"));
+  Prompts().warnings.clear();
+  Put("garbage.ZLB", "garbage");
+  Frame().Open(PathOf("garbage.ZLB"));
+  EXPECT_TRUE(Prompts().warnings.empty());
+}
+
+TEST_F(MainFrameFileTest, TitleHasEveryCharacterOfThePath) {
+  const QString path = PathOf("") + QString::fromUtf8("\xC3\xA4 & \xF0\x9F\x98\x80.ZLB");
+  Frame().Open(PathOf("parts.ZLB"));
+  Prompts().savePaths = {path};
+  Trigger(Command::SaveAs);
+  EXPECT_EQ(Title(), "Mivo - " + path.toStdString());
+  EXPECT_TRUE(std::filesystem::exists(path.toStdString()));
+}
+
+TEST_F(MainFrameFileTest, FileMayBeDroppedOnEveryPart) {
+  Frame().show();
+  for (const QWidget* const part : Frame().findChildren<QWidget*>()) {
+    EXPECT_FALSE(part->isVisible() && part->acceptDrops()) << part->objectName().toStdString();
+  }
+  EXPECT_TRUE(Frame().acceptDrops());
+}
 
 }  // namespace
 }  // namespace mivo

@@ -55,6 +55,28 @@ TEST_F(MainFrameNamesTest, MovingANameChangesTheOrderOfTheFile) {
                         ComponentRecord("C") + "+ALIAS,A:b2,N:b,-ALIAS\n"));
 }
 
+TEST_F(MainFrameNamesTest, FirstNameCannotMoveUp) {
+  EXPECT_FALSE(IsEnabled(Command::MoveNameUp));
+  Select(1);
+  EXPECT_TRUE(IsEnabled(Command::MoveNameUp));
+}
+
+TEST_F(MainFrameNamesTest, LastNameCannotMoveDown) {
+  Select(3);
+  EXPECT_FALSE(IsEnabled(Command::MoveNameDown));
+  Select(2);
+  EXPECT_TRUE(IsEnabled(Command::MoveNameDown));
+}
+
+TEST_F(MainFrameNamesTest, SortCommitsThePendingEdit) {
+  EditSelectedComponent();
+  const SComponent* const edited = Shown();
+  Prompts().confirmations = {true};
+  Trigger(Command::SortByName);
+  EXPECT_EQ(edited->Pins().size(), 1u);
+  EXPECT_TRUE(Frame().IsModified()) << "by the edit";
+}
+
 TEST_F(MainFrameNamesTest, SortComparesCodeUnitsAndLeavesTheModificationAlone) {
   Prompts().confirmations = {true};
   Trigger(Command::SortByName);
@@ -180,6 +202,52 @@ TEST_F(MainFrameNamesTest, DoubleClickOpensTheProperty) {
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
                      list.visualRect(list.Names().index(0)).center());
   EXPECT_EQ(Prompts().shownComponents.size(), 1u);
+}
+
+TEST_F(MainFrameNamesTest, DoubleClickBelowTheLastNameOpensThePropertyOfTheSelectedOne) {
+  Frame().show();
+  Select(2);
+  SLBCompName& list = Frame().Names();
+  const QPoint below = list.visualRect(list.Names().index(3)).center() + QPoint(0, 40);
+  Prompts().components = {std::nullopt};
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, below);
+  ASSERT_EQ(Prompts().shownComponents.size(), 1u);
+  EXPECT_EQ(Prompts().shownComponents.front().name, u"b2");
+}
+
+TEST_F(MainFrameNamesTest, DoubleClickIntoAnEmptyListDoesNothing) {
+  Frame().show();
+  Trigger(Command::New);
+  QTest::mouseDClick(Frame().Names().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
+  EXPECT_TRUE(Prompts().shownComponents.empty());
+}
+
+TEST_F(MainFrameNamesTest, NoteIsShownWithEveryCharacter) {
+  Put("odd.ZLB", LibraryFile(ComponentRecord("odd",
+                                             "\xEF\xBB\xBF"
+                                             "a%0D%0Ab%A0c")));
+  Frame().Open(PathOf("odd.ZLB"));
+  const auto* const note = Frame().findChild<QPlainTextEdit*>(QStringLiteral("noteBox"));
+  EXPECT_EQ(note->document()->toRawText().toStdU16String(), u"\uFEFFa\u2029b\u00A0c");
+  EXPECT_EQ(Shown()->note, u"\uFEFFa\r\nb\u00A0c");
+}
+
+// It takes hours when words are looked for in it.
+TEST_F(MainFrameNamesTest, NoteOfAMegabyteWithoutABlankIsShownAndCopied) {
+  Frame().show();
+  CompPropertyValues values;
+  values.name = u"long";
+  values.note = std::u16string(1'000'000, u'n');
+  Prompts().components = {values};
+  Trigger(Command::NewComponent);
+  auto* const note = Frame().findChild<QPlainTextEdit*>(QStringLiteral("noteBox"));
+  note->grab();
+  note->selectAll();
+  note->copy();
+  EXPECT_EQ(QGuiApplication::clipboard()->text().size(), 1'000'000);
+  Select(1);
+  EXPECT_EQ(note->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere)
+      << "short notes are wrapped between words";
 }
 
 TEST_F(MainFrameNamesTest, AliasStandsBehindTheSelectedNameAndIsNoModification) {
