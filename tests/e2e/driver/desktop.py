@@ -87,6 +87,10 @@ class Desktop:
         root = self._display.screen().root
         return Picture.of(root, *(box or (0, 0, *SCREEN)))
 
+    def pointer(self):
+        answer = self._display.screen().root.query_pointer()
+        return answer.root_x, answer.root_y
+
     def activate(self, title):
         """Brings the window to the front, as a task bar does."""
         window = wait_until(lambda: self._window(title), f"the window {title!r}")

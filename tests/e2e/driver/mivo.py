@@ -85,6 +85,13 @@ class Mivo:
 
         return self._opened(says, f"the message {english!r}")
 
+    def toolkit_dialog(self):
+        """Waits for a dialog that the toolkit brings along."""
+        own = self.texts.everything()
+        return self._opened(
+            lambda window: window.role == "dialog" and window.name not in own, "a dialog of the toolkit"
+        )
+
     def wait_active(self, role):
         """Waits for a window of the toolkit's own, whose words are not the program's."""
         return self._opened(lambda window: window.role == role, f"a window of the kind {role!r}")
@@ -293,6 +300,20 @@ class Dialog:
 
     def is_checked(self, english):
         return self.field(english).has("checked")
+
+    def tab_to(self, english):
+        """Goes to a control with Tab."""
+        field = self.field(english)
+        for _ in range(50):
+            if field.has("focused"):
+                return
+            before = self._focused()
+            self.mivo.press("Tab")
+            wait_until(lambda before=before: self._focused() != before, "Tab to go on")
+        raise AssertionError(f"Tab does not lead to {english!r}")
+
+    def _focused(self):
+        return next((each for each in self.control.walk() if each.has("focused")), None)
 
     def click(self, english):
         self.mivo.input.click(self.field(english, "push button").box.middle)
