@@ -9,15 +9,18 @@
 #include "add_alias.h"
 #include "comp_property.h"
 #include "dialog_texts.h"
+#include "program_version.h"
 #include "prop_lib.h"
 #include "qt_text.h"
 
 namespace mivo {
 namespace {
 
-const QString kTitle = QStringLiteral("Mivo");
 const QString kLibraryFiles = QStringLiteral(" (*.zlb *.ZLB)");
 const QString kSchematicFiles = QStringLiteral(" (*.zsc *.ZSC)");
+
+// The texts name the files themselves.
+constexpr QFileDialog::Option kFilterTexts = QFileDialog::HideNameFilterDetails;
 
 constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonTexts = {{
     {QMessageBox::Ok, dialog_text::kOk},
@@ -31,11 +34,13 @@ constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonT
 QString DialogPrompts::AskOpenPath() {
   const QString schematics = ToQString(texts_.Text(StringId::SchematicFilter)) + kSchematicFiles;
   return QFileDialog::getOpenFileName(&frame_, QString(), QString(),
-                                      LibraryFilter() + QStringLiteral(";;") + schematics);
+                                      LibraryFilter() + QStringLiteral(";;") + schematics, nullptr,
+                                      kFilterTexts);
 }
 
 QString DialogPrompts::AskSavePath(const QString& proposed) {
   QFileDialog dialog(&frame_, QString(), QString(), LibraryFilter());
+  dialog.setOption(kFilterTexts);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("ZLB"));
   dialog.selectFile(proposed);
@@ -69,7 +74,7 @@ void DialogPrompts::Warn(StringId message) {
 
 int DialogPrompts::Ask(QMessageBox::Icon icon, StringId message,
                        QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, kTitle, ToQString(texts_.Text(message)), buttons, &frame_);
+  QMessageBox box(icon, ToQString(kProgramName), ToQString(texts_.Text(message)), buttons, &frame_);
   for (const auto& [button, text] : kButtonTexts) {
     if (box.button(button) != nullptr) box.button(button)->setText(ToQString(texts_.Text(text)));
   }

@@ -26,6 +26,7 @@
 #include "lb_comp_name.h"
 #include "name_pane.h"
 #include "pin_props.h"
+#include "program_version.h"
 #include "qt_text.h"
 #include "schematic_data.h"
 #include "start_label.h"
@@ -328,7 +329,7 @@ void CMainFrame::MoveFocus(int direction) {
 }
 
 void CMainFrame::ShowTitle() {
-  QString title = QStringLiteral("Mivo");
+  QString title = ToQString(kProgramName);
   if (doc_.Path() && !doc_.Path()->empty()) {
     title += QStringLiteral(" - ") + ToQString(*doc_.Path());
   }

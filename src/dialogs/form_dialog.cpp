@@ -3,7 +3,6 @@
 #include <QAbstractButton>
 #include <QDialogButtonBox>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,6 +12,7 @@
 
 #include "dialog_texts.h"
 #include "entered_text.h"
+#include "program_version.h"
 #include "qt_text.h"
 
 namespace mivo {
@@ -137,7 +137,7 @@ void FormDialog::RefuseTooLong(std::size_t limit, QWidget& field) {
 void FormDialog::ShowRefusal(const QString& message, QWidget& field) {
   QMessageBox box(this);
   box.setIcon(QMessageBox::Warning);
-  box.setWindowTitle(QGuiApplication::applicationDisplayName());
+  box.setWindowTitle(ToQString(kProgramName));
   box.setTextFormat(Qt::PlainText);
   box.setText(message);
   box.addButton(Text(dialog_text::kOk), QMessageBox::AcceptRole);

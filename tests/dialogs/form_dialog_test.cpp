@@ -20,6 +20,7 @@
 #include "comp_property.h"
 #include "dialog_driver.h"
 #include "dialog_texts.h"
+#include "language_library.h"
 #include "line_property_dlg.h"
 #include "pin_name_show_hide.h"
 #include "pin_property.h"
@@ -66,26 +67,33 @@ TEST(FormDialog, EveryMnemonicLabelLeadsToAControl) {
   }
 }
 
-TEST(FormDialog, EverythingFitsInAnyFont) {
-  const TextTable texts;
+void ExpectEverythingFits(const TextTable& texts) {
+  for (const auto& dialog : AllDialogs(texts)) {
+    Show(*dialog);
+    for (const QWidget* const control : dialog->findChildren<QWidget*>()) {
+      if (!control->isVisibleTo(dialog.get())) continue;
+      if (qobject_cast<const QAbstractSpinBox*>(control->parent()) != nullptr) continue;
+      if (control->objectName().isEmpty() && qobject_cast<const QLabel*>(control) == nullptr) {
+        continue;
+      }
+      const QSize least = control->minimumSizeHint();
+      EXPECT_TRUE(control->width() >= least.width() && control->height() >= least.height())
+          << dialog->windowTitle().toStdString() << ": " << control->objectName().toStdString();
+    }
+  }
+}
+
+TEST(FormDialog, EverythingFitsInAnyFontAndLanguage) {
+  TextTable german;
+  ASSERT_TRUE(german.Translate(LoadLanguageLibrary(MIVO_GERMAN)));
   const QFont before = QApplication::font();
   for (const int size : {6, 10, 24, 40}) {
+    SCOPED_TRACE(size);
     QFont font = before;
     font.setPointSize(size);
     QApplication::setFont(font);
-    for (const auto& dialog : AllDialogs(texts)) {
-      Show(*dialog);
-      for (const QWidget* const control : dialog->findChildren<QWidget*>()) {
-        if (!control->isVisibleTo(dialog.get())) continue;
-        if (qobject_cast<const QAbstractSpinBox*>(control->parent()) != nullptr) continue;
-        if (control->objectName().isEmpty() && qobject_cast<const QLabel*>(control) == nullptr) {
-          continue;
-        }
-        const QSize least = control->minimumSizeHint();
-        EXPECT_TRUE(control->width() >= least.width() && control->height() >= least.height())
-            << size << ' ' << control->objectName().toStdString();
-      }
-    }
+    ExpectEverythingFits(TextTable());
+    ExpectEverythingFits(german);
   }
   QApplication::setFont(before);
 }
