@@ -55,7 +55,13 @@ def cli():
 
 
 @pytest.fixture
-def start(desktop, folder, language, texts, request):
+def watchers():
+    """What is called with the program and every dialog that a story opens."""
+    return []
+
+
+@pytest.fixture
+def start(desktop, folder, language, texts, watchers, request):
     """Starts the program from a folder of its own, with settings of its own: `start(file)`."""
     installed = folder / "program"
     installed.mkdir()
@@ -77,6 +83,7 @@ def start(desktop, folder, language, texts, request):
             (folder / "MIVO.INI").write_text(settings)
         program = [installed / PROGRAM.name, *arguments]
         mivo = Mivo(desktop, texts, program, folder, desktop.environment(home), user)
+        mivo.watchers = watchers
         started.append(mivo)
         return mivo
 

@@ -17,7 +17,7 @@ class Mivo:
         self.desktop = desktop
         self.texts = texts
         self.input = desktop.input
-        self.watchers = []  # called with every dialog that a story opens
+        self.watchers = []  # called with this and every dialog that a story opens
         self.log = folder / f"mivo-{len(list(folder.glob('mivo-*.log')))}.log"
         credentials = {"user": user.pw_uid, "group": user.pw_gid, "extra_groups": []} if user else {}
         with open(self.log, "wb") as log:
@@ -109,7 +109,7 @@ class Mivo:
         wait_until(lambda: control.has("active"), f"{what} to be active")
         dialog = Dialog(self, control)
         for watch in self.watchers:
-            watch(dialog)
+            watch(self, dialog)
         return dialog
 
     def has_focus_or_ended(self):
