@@ -4,68 +4,25 @@
 
 #include <QGuiApplication>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <vector>
 
 #include "comp_editor.h"
+#include "median.h"
 #include "ptn_obj_arc.h"
 #include "ptn_obj_circle.h"
 #include "ptn_obj_line.h"
 #include "ptn_obj_polygon.h"
 #include "ptn_obj_text.h"
 #include "qt_surface.h"
+#include "silent_ports.h"
 
 namespace mivo::bench {
 namespace {
 
 constexpr PixelSize kScreen{3840, 2160};
-constexpr int kRounds = 9;
-
-class SilentHost final : public ViewHost {
- public:
-  void Repaint() override {}
-  void Render() override {}
-  void ScrollBarsChanged() override {}
-  void SetCursor(CursorShape) override {}
-  void SetCapture(bool) override {}
-  void ShowContextMenu(PixelPoint) override {}
-  void StateChanged() override {}
-  void Edited() override {}
-  void PinsChanged() override {}
-  void TogglePinGrid() override {}
-  [[nodiscard]] bool IsPinGridShown() const override { return false; }
-};
-
-class NoPrompts final : public PropertyPrompts {
- public:
-  [[nodiscard]] std::optional<PinValues> AskPin(const PinValues&) override { return {}; }
-  [[nodiscard]] std::optional<LineValues> AskLine(const LineValues&) override { return {}; }
-  [[nodiscard]] std::optional<ShapeValues> AskShape(const ShapeValues&) override { return {}; }
-  [[nodiscard]] std::optional<TextValues> AskText(const TextValues&) override { return {}; }
-};
-
-class NoClipboard final : public TextClipboard {
- public:
-  [[nodiscard]] bool SetText(std::u16string_view) override { return false; }
-  [[nodiscard]] std::optional<std::u16string> GetText() override { return {}; }
-};
-
-template <typename Work>
-double MedianMilliseconds(Work work) {
-  std::vector<double> times;
-  for (int round = 0; round < kRounds; ++round) {
-    const auto start = std::chrono::steady_clock::now();
-    work(round);
-    const std::chrono::duration<double, std::milli> elapsed =
-        std::chrono::steady_clock::now() - start;
-    times.push_back(elapsed.count());
-  }
-  std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-  return times[kRounds / 2];
-}
 
 std::unique_ptr<SPtnObj> MakeObject(std::int32_t index, SPoint at) {
   switch (index % 5) {
