@@ -20,7 +20,6 @@ CAddAlias::CAddAlias(const TextTable& texts, std::u16string_view name, QWidget* 
     : FormDialog(texts, text::kTitle, parent) {
   QLineEdit* const nameEdit = MakeLineEdit("nameEdit", text::kName, name, kVisibleCharacters);
   nameEdit->setReadOnly(true);
-  nameEdit->setCursorPosition(0);
   alias_ = MakeLineEdit("aliasEdit", text::kAlias, {}, kVisibleCharacters);
 
   auto* const form = new QFormLayout;

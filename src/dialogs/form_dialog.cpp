@@ -83,6 +83,7 @@ void FormDialog::ShowText(QLineEdit& edit, std::u16string_view content, int typi
   edit.clear();  // a lower limit would cut it
   edit.setMaxLength(static_cast<int>(std::max<qsizetype>(typingLimit, text.size())));
   edit.setText(text);
+  edit.setCursorPosition(0);  // of a long text the beginning shows
 }
 
 QLabel* FormDialog::MakeLabel(TextId text, QWidget& control) {

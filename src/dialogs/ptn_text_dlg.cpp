@@ -1,5 +1,6 @@
 #include "ptn_text_dlg.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QFont>
 #include <QFontDialog>
@@ -16,6 +17,7 @@
 
 #include "dialog_texts.h"
 #include "integer.h"
+#include "ptn_form.h"
 #include "qt_text.h"
 
 namespace mivo {
@@ -24,6 +26,12 @@ namespace {
 namespace text = dialog_text::ptn_text;
 
 constexpr int kVisibleCharacters = 40;
+
+/// The id of a button.
+template <typename Anchor>
+constexpr int Number(Anchor anchor) {
+  return static_cast<int>(anchor);
+}
 
 // The font dialog's size stands for component units, so that people find there what they chose.
 
@@ -49,7 +57,10 @@ void SetFont(TextValues& values, const QFont& font) {
 }  // namespace
 
 CPtnTextDlg::CPtnTextDlg(const TextTable& texts, TextValues values, QWidget* parent)
-    : FormDialog(texts, text::kTitle, parent), values_(std::move(values)) {
+    : FormDialog(texts, text::kTitle, parent),
+      values_(std::move(values)),
+      horizontal_(new QButtonGroup(this)),
+      vertical_(new QButtonGroup(this)) {
   text_ =
       MakeLineEdit("textEdit", text::kText, values_.text, kVisibleCharacters, kMaxPtnTextLength);
   auto* const textRow = new QHBoxLayout;
@@ -87,48 +98,36 @@ std::optional<TextValues> CPtnTextDlg::Ask(const TextTable& texts, const TextVal
   return dialog.Values();
 }
 
-QGroupBox* CPtnTextDlg::MakeHorizontalGroup() {
-  auto* const group = new QGroupBox(Text(text::kHorizontalGroup), this);
-  auto* const column = new QVBoxLayout(group);
-  left_ = MakeButton<QRadioButton>("leftRadio", text::kLeft);
-  horizontalCenter_ = MakeButton<QRadioButton>("horizontalCenterRadio", text::kHorizontalCenter);
-  right_ = MakeButton<QRadioButton>("rightRadio", text::kRight);
-  for (QRadioButton* const button : {left_, horizontalCenter_, right_}) column->addWidget(button);
-  switch (HorizontalAnchorOf(values_.align)) {
-    case HorizontalAnchor::Left:
-      left_->setChecked(true);
-      break;
-    case HorizontalAnchor::Right:
-      right_->setChecked(true);
-      break;
-    case HorizontalAnchor::Center:
-      horizontalCenter_->setChecked(true);
-      break;
+QGroupBox* CPtnTextDlg::MakeAnchorGroup(TextId title, const std::array<AnchorButton, 3>& buttons,
+                                        QButtonGroup& group, int chosen) {
+  auto* const box = new QGroupBox(Text(title), this);
+  auto* const column = new QVBoxLayout(box);
+  for (const AnchorButton& button : buttons) {
+    auto* const radio = MakeButton<QRadioButton>(button.objectName, button.text);
+    group.addButton(radio, button.anchor);
+    column->addWidget(radio);
   }
-  LetTabReachChecked({left_, horizontalCenter_, right_});
-  return group;
+  group.button(chosen)->setChecked(true);
+  LetTabReachChecked(group.buttons());
+  return box;
+}
+
+QGroupBox* CPtnTextDlg::MakeHorizontalGroup() {
+  using enum HorizontalAnchor;
+  return MakeAnchorGroup(text::kHorizontalGroup,
+                         {{{"leftRadio", text::kLeft, Number(Left)},
+                           {"horizontalCenterRadio", text::kHorizontalCenter, Number(Center)},
+                           {"rightRadio", text::kRight, Number(Right)}}},
+                         *horizontal_, Number(HorizontalAnchorOf(values_.align)));
 }
 
 QGroupBox* CPtnTextDlg::MakeVerticalGroup() {
-  auto* const group = new QGroupBox(Text(text::kVerticalGroup), this);
-  auto* const column = new QVBoxLayout(group);
-  upper_ = MakeButton<QRadioButton>("upperRadio", text::kUpper);
-  verticalCenter_ = MakeButton<QRadioButton>("verticalCenterRadio", text::kVerticalCenter);
-  lower_ = MakeButton<QRadioButton>("lowerRadio", text::kLower);
-  for (QRadioButton* const button : {upper_, verticalCenter_, lower_}) column->addWidget(button);
-  switch (VerticalAnchorOf(values_.align)) {
-    case VerticalAnchor::Lower:
-      lower_->setChecked(true);
-      break;
-    case VerticalAnchor::Upper:
-      upper_->setChecked(true);
-      break;
-    case VerticalAnchor::Center:
-      verticalCenter_->setChecked(true);
-      break;
-  }
-  LetTabReachChecked({upper_, verticalCenter_, lower_});
-  return group;
+  using enum VerticalAnchor;
+  return MakeAnchorGroup(text::kVerticalGroup,
+                         {{{"upperRadio", text::kUpper, Number(Upper)},
+                           {"verticalCenterRadio", text::kVerticalCenter, Number(Center)},
+                           {"lowerRadio", text::kLower, Number(Lower)}}},
+                         *vertical_, Number(VerticalAnchorOf(values_.align)));
 }
 
 void CPtnTextDlg::FollowCommonFontCheck() {
@@ -143,19 +142,10 @@ void CPtnTextDlg::ChooseFont() {
   if (dialog.exec() == Accepted) SetFont(values_, dialog.selectedFont());
 }
 
-HorizontalAnchor CPtnTextDlg::Horizontal() const {
-  if (left_->isChecked()) return HorizontalAnchor::Left;
-  return right_->isChecked() ? HorizontalAnchor::Right : HorizontalAnchor::Center;
-}
-
-VerticalAnchor CPtnTextDlg::Vertical() const {
-  if (lower_->isChecked()) return VerticalAnchor::Lower;
-  return upper_->isChecked() ? VerticalAnchor::Upper : VerticalAnchor::Center;
-}
-
 void CPtnTextDlg::accept() {
   values_.text = ToText(text_->text());
-  values_.align = AlignOf(Horizontal(), Vertical());
+  values_.align = AlignOf(static_cast<HorizontalAnchor>(horizontal_->checkedId()),
+                          static_cast<VerticalAnchor>(vertical_->checkedId()));
   QDialog::accept();
 }
 

@@ -1,16 +1,16 @@
 #ifndef MIVO_DIALOGS_PTN_TEXT_DLG_H
 #define MIVO_DIALOGS_PTN_TEXT_DLG_H
 
+#include <array>
 #include <optional>
 
 #include "form_dialog.h"
 #include "property_values.h"
-#include "ptn_form.h"
 
+class QButtonGroup;
 class QCheckBox;
 class QGroupBox;
 class QPushButton;
-class QRadioButton;
 
 namespace mivo {
 
@@ -29,21 +29,24 @@ class CPtnTextDlg final : public FormDialog {
   void accept() override;
 
  private:
+  struct AnchorButton {
+    const char* objectName;
+    TextId text;
+    int anchor;
+  };
+
+  /// A box of buttons for one direction, whose ids are the anchors.
+  QGroupBox* MakeAnchorGroup(TextId title, const std::array<AnchorButton, 3>& buttons,
+                             QButtonGroup& group, int chosen);
   QGroupBox* MakeHorizontalGroup();
   QGroupBox* MakeVerticalGroup();
   void FollowCommonFontCheck();
   void ChooseFont();
-  [[nodiscard]] HorizontalAnchor Horizontal() const;
-  [[nodiscard]] VerticalAnchor Vertical() const;
 
   TextValues values_;
   QLineEdit* text_ = nullptr;
-  QRadioButton* left_ = nullptr;
-  QRadioButton* horizontalCenter_ = nullptr;
-  QRadioButton* right_ = nullptr;
-  QRadioButton* upper_ = nullptr;
-  QRadioButton* verticalCenter_ = nullptr;
-  QRadioButton* lower_ = nullptr;
+  QButtonGroup* horizontal_;
+  QButtonGroup* vertical_;
   QCheckBox* useCommonFont_ = nullptr;
   QPushButton* font_ = nullptr;
 };

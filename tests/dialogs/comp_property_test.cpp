@@ -283,6 +283,11 @@ TEST_F(CompProperty, ANoteOfAMegabyteInOneLineComesBack) {
   EXPECT_EQ(dialog_->Values().note, note);
 }
 
+TEST_F(CompProperty, OfALongTextTheBeginningShows) {
+  Open({.partNumber = std::u16string(30000, u'p')});
+  EXPECT_EQ(Find<QLineEdit>(*dialog_, "partNumberEdit").cursorPosition(), 0);
+}
+
 TEST_F(CompProperty, ANameOf5000CharactersShowsWholeAndIsRefused) {
   const std::u16string name(5000, u'N');
   Open({.name = name});

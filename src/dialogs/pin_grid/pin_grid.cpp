@@ -156,7 +156,6 @@ void PinGrid::MoveEdit(int step) {
   if (!IsTextEdit()) return;
   const int column = EditColumn();
   EndEdit();
-  if (selectedRow_ < 0) return;
   if (SelectRow(NeighbourOfSelectedRow(step))) StartEdit(column);
 }
 

@@ -47,6 +47,15 @@ TEST_F(PinGridEditingTest, ClickBelowTheLastRowOnlyEndsTheEdit) {
   EXPECT_EQ(Pin(0).Name(), u"X");
 }
 
+TEST_F(PinGridEditingTest, EditOfACellTakesItsRowIntoSight) {
+  Grid().SetVisible(1, 1);
+  Grid().Click(0, kLocation);
+  Grid().ScrollRows(ScrollRequest::End, 0);
+  ASSERT_EQ(Grid().RowScroll().First(), 2);
+  Grid().StartEdit(kName);
+  EXPECT_EQ(Grid().RowScroll().First(), 0);
+}
+
 TEST_F(PinGridEditingTest, EditOfACellNeedsASelectedRow) {
   Grid().StartEdit(kName);
   EXPECT_EQ(Grid().Edit(), EditKind::None);
@@ -160,6 +169,13 @@ TEST_F(PinGridStyleEditTest, ChoosingTheSameStyleIsNoChange) {
   Grid().ChooseStyle(3);
   EXPECT_EQ(PinChanges(), before);
   EXPECT_FALSE(Editor().Document().SelectionChanged());
+}
+
+TEST_F(PinGridStyleEditTest, ChoiceWhileATextIsEditedIsIgnored) {
+  OpenPinOfType(0);
+  Grid().Click(0, kName);
+  Grid().ChooseStyle(1);
+  EXPECT_EQ(Pin(0).type, 0);
 }
 
 TEST_F(PinGridStyleEditTest, ChoiceAfterTheEndOfTheEditIsIgnored) {

@@ -111,6 +111,24 @@ TEST_F(PinPropsTest, ScrollingKeepsWhatWasTyped) {
   EXPECT_EQ(Pin(0).Name(), u"X");
 }
 
+TEST_F(PinPropsTest, ClickMeansTheRowInSight) {
+  Show(ManyPins(200, 1));
+  RowBar().triggerAction(QAbstractSlider::SliderPageStepAdd);
+  Click(1, kLocation);
+  EXPECT_EQ(SelectedRow(), 5);
+}
+
+TEST_F(PinPropsTest, AnotherSizeKeepsWhatWasTyped) {
+  Show(ManyPins(200, 1));
+  Click(0, kName);
+  QTest::keyClicks(&Edit(), "X");
+  const int height = Grid().height();
+  Props().resize(Props().width(), Props().height() + 100);
+  ASSERT_TRUE(WaitUntil([&] { return Grid().height() > height; }));
+  EXPECT_FALSE(Edit().isVisible());
+  EXPECT_EQ(Pin(0).Name(), u"X");
+}
+
 TEST_F(PinPropsTest, MovingAlongScrolls) {
   Show(ManyPins(200, 1));
   Click(0, kName);
