@@ -80,7 +80,6 @@ QLineEdit* FormDialog::MakeLineEdit(const char* objectName, TextId text,
 
 void FormDialog::ShowText(QLineEdit& edit, std::u16string_view content, int typingLimit) {
   const QString text = ToQString(content);
-  edit.clear();  // a lower limit would cut it
   edit.setMaxLength(static_cast<int>(std::max<qsizetype>(typingLimit, text.size())));
   edit.setText(text);
   edit.setCursorPosition(0);  // of a long text the beginning shows

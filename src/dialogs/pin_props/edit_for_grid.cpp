@@ -15,7 +15,6 @@ CEditForGrid::CEditForGrid(QWidget* parent) : QLineEdit(parent) {
 
 void CEditForGrid::Open(std::u16string_view text, int typingLimit, const QRect& cell) {
   const QString shown = ToQString(text);
-  clear();  // a lower limit would cut it
   setMaxLength(static_cast<int>(std::max<qsizetype>(typingLimit, shown.size())));
   setText(shown);
   setGeometry(cell);

@@ -1,7 +1,7 @@
 #include "style_chooser.h"
 
 #include <QAbstractItemView>
-#include <QFocusEvent>
+#include <QEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QStyledItemDelegate>
@@ -38,6 +38,7 @@ class PictureDelegate final : public QStyledItemDelegate {
 StyleChooser::StyleChooser(QWidget* parent) : QComboBox(parent) {
   setItemDelegate(new PictureDelegate(this));
   setMaxVisibleItems(kMostEntries);
+  view()->installEventFilter(this);
   hide();
 }
 
@@ -60,25 +61,17 @@ void StyleChooser::Open(int entry, const QRect& cell) {
   showPopup();
 }
 
-void StyleChooser::hidePopup() {
-  const bool wasOpen = view()->isVisible();
-  QComboBox::hidePopup();
-  // A choice is told after the list has gone.
-  if (wasOpen) QMetaObject::invokeMethod(this, &StyleChooser::Dismissed, Qt::QueuedConnection);
-}
-
-bool StyleChooser::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    event->accept();
-    return true;
+bool StyleChooser::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == view() && event->type() == QEvent::Hide) {
+    // A choice is told after the list has gone.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (!view()->isVisible()) emit Dismissed();
+        },
+        Qt::QueuedConnection);
   }
-  return QComboBox::event(event);
-}
-
-void StyleChooser::focusOutEvent(QFocusEvent* event) {
-  QComboBox::focusOutEvent(event);
-  // The list takes the focus while it is open.
-  if (!view()->isVisible()) emit Dismissed();
+  return QComboBox::eventFilter(watched, event);
 }
 
 }  // namespace mivo

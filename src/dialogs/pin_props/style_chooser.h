@@ -20,15 +20,11 @@ class StyleChooser final : public QComboBox {
   /// Drops down in `cell` of the parent with `entry` marked.
   void Open(int entry, const QRect& cell);
 
-  void hidePopup() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
-  /// The list closed without a choice.
+  /// The list has gone, after a choice or without one.
   void Dismissed();
-
- protected:
-  bool event(QEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 };
 
 }  // namespace mivo

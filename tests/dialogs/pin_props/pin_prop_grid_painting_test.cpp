@@ -186,12 +186,31 @@ TEST_F(PinPropGridPaintingTest, EveryStyleHasAPictureOfItsOwn) {
   }
 }
 
+TEST_F(PinPropGridPaintingTest, PicturesStandInTheMiddleOfTheirCells) {
+  Show(MakeComponent({{PinSide::Left, 1}}));
+  const QImage cell = Picture(0, kStyle);
+  const auto isPaper = [&](int x) {
+    for (int y = 0; y < cell.height(); ++y) {
+      if (cell.pixelColor(x, y) != QColor(Qt::white)) return false;
+    }
+    return true;
+  };
+  int left = 0;
+  while (left < cell.width() && isPaper(left)) ++left;
+  int right = 0;
+  while (right < cell.width() && isPaper(cell.width() - 1 - right)) ++right;
+  EXPECT_GT(left, cell.width() / 5);
+  EXPECT_GT(right, cell.width() / 5);
+}
+
 TEST_F(PinPropGridPaintingTest, SelectedRowIsMarkedAlsoWhenSelectedInTheView) {
   Show(ManyPins(3, 1));
   EXPECT_TRUE(IsBlank(Picture(1, kHide)));
   ASSERT_TRUE(Editor().SelectPin({PinSide::Left, 1}));
   EXPECT_FALSE(IsBlank(Picture(1, kHide)));
   EXPECT_TRUE(IsBlank(Picture(0, kHide)));
+  CloseButton().setFocus();
+  EXPECT_FALSE(IsBlank(Picture(1, kHide))) << "also while the table does not have the focus";
 }
 
 TEST_F(PinPropGridPaintingTest, FocusShowsOnTheSelectedRow) {
@@ -225,6 +244,20 @@ TEST_F(PinPropGridPaintingTest, BlocksThatAPinDoesNotHaveAreBlank) {
   EXPECT_FALSE(IsBlank(Picture(0, kFirstBlock)));
   ASSERT_TRUE(WaitUntil([&] { return Grid().width() > Grid().Cells().Left(kFirstBlock + 2); }));
   EXPECT_TRUE(IsBlank(Picture(0, kFirstBlock + 1)));
+}
+
+TEST_F(PinPropGridPaintingTest, LinesEndWithTheLastBlock) {
+  Show(ManyPins(2, 1));
+  Props().resize(900, 500);
+  ASSERT_TRUE(WaitUntil([&] { return Grid().width() > Grid().Cells().Left(kFirstBlock + 2); }));
+  const QImage image = Grid().grab().toImage();
+  const QColor paper = Grid().palette().color(QPalette::Base);
+  const int y = Cell(0, kName).center().y();
+  EXPECT_NE(image.pixelColor(Grid().Cells().Left(kFirstBlock + 1), y), paper);
+  EXPECT_EQ(image.pixelColor(Grid().Cells().Left(kFirstBlock + 2), y), paper);
+  const int bottom = Cell(2, kName).top();
+  EXPECT_NE(image.pixelColor(Cell(0, kName).center().x(), bottom), paper) << "below the last row";
+  EXPECT_EQ(image.pixelColor(Cell(0, kName).center().x(), bottom + 5), paper);
 }
 
 TEST_F(PinPropGridPaintingTest, ScrolledRowsLookAsTheyDoUnscrolled) {

@@ -241,6 +241,20 @@ TEST_F(PinPropGridTest, ChangesFromElsewhereCloseTheEditor) {
   EXPECT_EQ(Grid().Grid().RowCount(), 2);
 }
 
+TEST_F(PinPropGridTest, ChangesAreDrawnAtOnce) {
+  PaintCounter paints;
+  Grid().installEventFilter(&paints);
+  const auto isDrawnAfter = [&](const std::function<void()>& change) {
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    change();
+    return WaitUntil([&] { return paints.count > 0; });
+  };
+  EXPECT_TRUE(isDrawnAfter([&] { ASSERT_TRUE(Editor().SelectPin({PinSide::Left, 1})); }));
+  EXPECT_TRUE(isDrawnAfter([&] { Editor().Execute(Command::NextPinName); }));
+  EXPECT_TRUE(isDrawnAfter([&] { Editor().Execute(Command::Undo); }));
+}
+
 // --- Styles --------------------------------------------------------------------------------------
 
 TEST_F(PinPropGridTest, ChooserDropsDownOnTheStyleOfThePin) {
@@ -277,6 +291,37 @@ TEST_F(PinPropGridTest, TurningAwayFromTheListChangesNothing) {
   EXPECT_FALSE(Editor().Document().SelectionChanged());
   EXPECT_TRUE(Props().isVisible());
   EXPECT_EQ(Props().focusWidget(), &Grid());
+}
+
+TEST_F(PinPropGridTest, ListThatTheDesktopClosesEndsTheEdit) {
+  Click(2, kStyle);
+  Chooser().view()->window()->close();
+  EXPECT_TRUE(WaitUntil([&] { return !Chooser().isVisible(); }));
+  EXPECT_EQ(Grid().Grid().Edit(), PinGrid::EditKind::None);
+  EXPECT_EQ(Pin(2).type, 3);
+  EXPECT_EQ(Props().focusWidget(), &Grid());
+}
+
+TEST_F(PinPropGridTest, ListClosedAndOpenedAtOnceStaysOpen) {
+  Click(0, kStyle);
+  Chooser().hidePopup();
+  Click(1, kStyle);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(Chooser().view()->isVisible());
+  EXPECT_EQ(Grid().Grid().Edit(), PinGrid::EditKind::Style);
+}
+
+TEST_F(PinPropGridTest, EntryThatWouldBeChosenIsMarked) {
+  Click(0, kStyle);
+  QAbstractItemView& list = *Chooser().view();
+  const auto picture = [&](int entry) {
+    return list.viewport()->grab(list.visualRect(list.model()->index(entry, 0))).toImage();
+  };
+  const QImage marked = picture(0);
+  const QImage unmarked = picture(1);
+  QTest::keyClick(&list, Qt::Key_Down);
+  EXPECT_NE(picture(0), marked);
+  EXPECT_NE(picture(1), unmarked);
 }
 
 TEST_F(PinPropGridTest, StylesHaveTheOrderOfTheList) {

@@ -86,6 +86,21 @@ TEST_F(PinPropsTest, EndShowsTheLastRowAndBlock) {
   EXPECT_EQ(RowBar().value(), RowBar().maximum());
 }
 
+TEST_F(PinPropsTest, ThumbsTellHowMuchIsInSight) {
+  Show(ManyPins(200, 32));
+  EXPECT_EQ(RowBar().pageStep(), Grid().Cells().WholeRows(Grid().height()));
+  EXPECT_EQ(BlockBar().pageStep(), Grid().Cells().WholeBlocks(Grid().width()));
+}
+
+TEST_F(PinPropsTest, HeadingsFollowAtOnce) {
+  Show(ManyPins(3, 32));
+  QCoreApplication::processEvents();
+  PaintCounter paints;
+  Find<QWidget>("pinGridTitle").installEventFilter(&paints);
+  BlockBar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  EXPECT_TRUE(WaitUntil([&] { return paints.count > 0; }));
+}
+
 TEST_F(PinPropsTest, WheelScrolls) {
   Show(ManyPins(200, 32));
   const auto turn = [&](QPoint delta) {
@@ -166,6 +181,14 @@ TEST_F(PinPropsTest, ClosingKeepsWhatWasTypedAndTells) {
     EXPECT_EQ(Pin(0).Name(), u"X");
     EXPECT_EQ(finished.count(), 1);
   }
+}
+
+TEST_F(PinPropsTest, ClosingEndsTheChoiceOfAStyle) {
+  Show(ManyPins(3, 1));
+  Click(0, kStyle);
+  Props().reject();
+  EXPECT_EQ(Grid().Grid().Edit(), PinGrid::EditKind::None);
+  EXPECT_EQ(Pin(0).type, 0);
 }
 
 TEST_F(PinPropsTest, EscapeClosesWhenNoCellIsEdited) {

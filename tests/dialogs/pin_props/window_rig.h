@@ -17,6 +17,17 @@
 
 namespace mivo {
 
+/// Counts how often the widgets that it filters are painted.
+class PaintCounter final : public QObject {
+ public:
+  int count = 0;
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++count;
+    return false;
+  }
+};
+
 /// The window of the pin grid over an editor without a window.
 class WindowTest : public testing::Test {
  protected:
