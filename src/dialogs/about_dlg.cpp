@@ -1,6 +1,5 @@
 #include "about_dlg.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -21,7 +20,7 @@ CAboutDlg::CAboutDlg(const TextTable& texts, QWidget* parent)
   // As tall as a few lines of text, so that it grows with the font.
   constexpr int kIconLines = 3;
   const int side = kIconLines * fontMetrics().lineSpacing();
-  icon->setPixmap(QApplication::windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
+  icon->setPixmap(windowIcon().pixmap(QSize(side, side), devicePixelRatio()));
 
   auto* const version = new QLabel(Text(text::kVersion) + Text(StringId::Version), this);
   version->setObjectName(QStringLiteral("versionLabel"));

@@ -5,7 +5,7 @@
 
 namespace mivo {
 
-/// Shows the program's icon (that of the application's windows) and version.
+/// Shows the icon of the window in front of which it opens, and the version.
 class CAboutDlg final : public FormDialog {
  public:
   CAboutDlg(const TextTable& texts, QWidget* parent);

@@ -37,7 +37,6 @@ QSize BlockSpinBox::sizeHint() const {
 }
 
 QAbstractSpinBox::StepEnabled BlockSpinBox::stepEnabled() const {
-  if (blockCount_ < 2) return StepNone;
   const std::int32_t block = Block();
   StepEnabled enabled;
   enabled.setFlag(StepUpEnabled, block < blockCount_);

@@ -122,7 +122,6 @@ QGroupBox* CCompProperty::MakeBlockGroup() {
 
 void CCompProperty::Connect() {
   connect(usePattern_, &QCheckBox::clicked, this, [this](bool isChecked) {
-    values_.usePattern = isChecked;
     noBitPattern_->setEnabled(isChecked);
     noBitPattern_->setChecked(isChecked);
   });
@@ -182,8 +181,7 @@ void CCompProperty::accept() {
     Refuse(refusal->message, ControlOf(refusal->field));
     return;
   }
-  values_.sharedBlock = sharedBlock_->isChecked();
-  values_.fixedBlock = fixedBlock_->isChecked() && !values_.sharedBlock;
+  if (values_.sharedBlock) values_.fixedBlock = false;  // as the boxes show it
   std::u16string note = note_->Content();
   if (note_->IsEdited() && note.size() > CompPropertyValues::kMaxNoteLength) {
     RefuseTooLong(CompPropertyValues::kMaxNoteLength, *note_);

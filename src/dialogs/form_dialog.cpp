@@ -106,7 +106,7 @@ void FormDialog::LetTabReachChecked(const QList<QAbstractButton*>& buttons) {
 void FormDialog::Finish(QLayout* controls, Buttons which) {
   auto* const buttons = new QDialogButtonBox(this);
   QPushButton* const ok = buttons->addButton(Text(dialog_text::kOk), QDialogButtonBox::AcceptRole);
-  Named(ok, "okButton", dialog_text::kOk)->setDefault(true);
+  Named(ok, "okButton", dialog_text::kOk);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   if (which == Buttons::OkCancel) {
     Named(buttons->addButton(Text(dialog_text::kCancel), QDialogButtonBox::RejectRole),
@@ -138,7 +138,6 @@ void FormDialog::ShowRefusal(const QString& message, QWidget& field) {
   QMessageBox box(this);
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle(ToQString(kProgramName));
-  box.setTextFormat(Qt::PlainText);
   box.setText(message);
   box.addButton(Text(dialog_text::kOk), QMessageBox::AcceptRole);
   box.exec();

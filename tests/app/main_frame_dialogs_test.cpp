@@ -182,6 +182,7 @@ TEST_F(MainFrameDialogsTest, AboutTellsTheVersion) {
   Use<CAboutDlg>(Command::About, "okButton", [](CAboutDlg& dialog) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("About Mivo"));
     EXPECT_EQ(Find<QLabel>(dialog, "versionLabel").text(), QStringLiteral("Mivo Version 0.84.00"));
+    EXPECT_FALSE(Find<QLabel>(dialog, "iconLabel").pixmap().isNull());
   });
 }
 

@@ -179,6 +179,14 @@ TEST_F(CompProperty, GivesBackTheBlockMode) {
   EXPECT_EQ(dialog_->Values(), (CompPropertyValues{.fixedBlock = true, .fixedBlockNumber = 12}));
 }
 
+TEST_F(CompProperty, OfTwoBlockModesSharedPrevails) {
+  Open({.fixedBlock = true, .fixedBlockNumber = 4, .sharedBlock = true});
+  EXPECT_TRUE(IsChecked("sharedBlockCheck"));
+  EXPECT_FALSE(IsChecked("fixedBlockCheck"));
+  EXPECT_EQ(PressOk(), std::nullopt);
+  EXPECT_EQ(dialog_->Values(), (CompPropertyValues{.sharedBlock = true}));
+}
+
 TEST_F(CompProperty, AFixedBlockOpensWithItsNumber) {
   CCompProperty& dialog = Open({.fixedBlock = true, .fixedBlockNumber = 4});
   EXPECT_TRUE(IsChecked("fixedBlockCheck"));

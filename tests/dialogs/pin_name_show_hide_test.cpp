@@ -59,6 +59,7 @@ TEST_F(PinNameShowHide, ListsTheParts) {
   EXPECT_EQ(Lines(list), (std::vector<std::u16string>{u"A", u"B\\/C", u""}));
   EXPECT_EQ(FocusName(*dialog_), "partsList");
   EXPECT_EQ(list.currentRow(), 0);
+  EXPECT_TRUE(list.item(0)->isSelected());
 }
 
 TEST_F(PinNameShowHide, ChecksFollowTheMaskAndMakeIt) {

@@ -112,6 +112,53 @@ TEST_F(PinProperty, TheUpDownControlStaysInTheBlocks) {
   press(Qt::Key_Up, u"2", u"4");
 }
 
+TEST_F(PinProperty, PagesOfBlocksEndAtTheLimits) {
+  PinValues values;
+  values.numbers.assign(15, u"n");
+  CPinProperty& dialog = Open(values);
+  auto& edit = Find<QLineEdit>(dialog, "blockEdit");
+  edit.setFocus();
+  const auto blockAfter = [&](Qt::Key key) {
+    QTest::keyClick(&edit, key);
+    EXPECT_EQ(edit.selectedText(), edit.text());
+    return edit.text().toInt();
+  };
+  EXPECT_EQ(blockAfter(Qt::Key_PageUp), 11);
+  EXPECT_EQ(blockAfter(Qt::Key_PageUp), 15);
+  EXPECT_EQ(blockAfter(Qt::Key_PageDown), 5);
+  EXPECT_EQ(blockAfter(Qt::Key_PageDown), 1);
+}
+
+TEST_F(PinProperty, ArrowsThatLeadNowhereAreGrey) {
+  const auto arrows = [&](const char* block) {
+    Type(*dialog_, "blockEdit", block);
+    const auto& spin = Find<BlockSpinBox>(*dialog_, "blockSpin");
+    const int right = spin.Edit().geometry().right() + 1;
+    return dialog_
+        ->grab(QRect(spin.mapTo(dialog_.operator->(), QPoint(right, 0)),
+                     QSize(spin.width() - right, spin.height())))
+        .toImage();
+  };
+  Open(ThreeBlocks());
+  const QImage atFirst = arrows("1");
+  const QImage between = arrows("2");
+  const QImage atLast = arrows("3");
+  EXPECT_NE(atFirst, between);
+  EXPECT_NE(atLast, between);
+  EXPECT_NE(atFirst, atLast);
+  Open({.numbers = {u"5"}});
+  const QImage withOneBlock = arrows("1");
+  EXPECT_NE(withOneBlock, atFirst);
+  EXPECT_NE(withOneBlock, atLast);
+}
+
+TEST_F(PinProperty, AnotherTextForTheSameBlockLeavesItsNumberAlone) {
+  CPinProperty& dialog = Open(ThreeBlocks());
+  Type(dialog, "numberEdit", "55");
+  Type(dialog, "blockEdit", "01");
+  EXPECT_TRUE(Find<QLineEdit>(dialog, "numberEdit").isUndoAvailable());
+}
+
 TEST_F(PinProperty, AOneBlockPinHasNothingToStep) {
   CPinProperty& dialog = Open({.numbers = {u"5"}});
   auto& edit = Find<QLineEdit>(dialog, "blockEdit");

@@ -137,16 +137,18 @@ TEST_F(TextDialogs, LibraryTextTabOrder) {
 TEST_F(TextDialogs, AboutShowsIconAndVersion) {
   QPixmap icon(64, 64);
   icon.fill(Qt::red);
-  QApplication::setWindowIcon(icon);
-  CAboutDlg dialog(texts_, nullptr);
+  QWidget window;
+  window.setWindowIcon(icon);
+  CAboutDlg dialog(texts_, &window);
   Show(dialog);
   EXPECT_EQ(dialog.windowTitle(), QStringLiteral("About Mivo"));
   EXPECT_EQ(Find<QLabel>(dialog, "versionLabel").text(), QStringLiteral("Mivo Version 0.84.00"));
-  EXPECT_FALSE(Find<QLabel>(dialog, "iconLabel").pixmap().isNull());
+  const QImage shown = Find<QLabel>(dialog, "iconLabel").pixmap().toImage();
+  ASSERT_FALSE(shown.isNull());
+  EXPECT_EQ(shown.pixelColor(shown.rect().center()), QColor(Qt::red));
   EXPECT_EQ(dialog.findChild<QWidget*>(QStringLiteral("cancelButton")), nullptr);
   Click(dialog, "okButton");
   EXPECT_FALSE(dialog.isVisible());
-  QApplication::setWindowIcon({});
 }
 
 }  // namespace

@@ -100,7 +100,6 @@ CPinProps::CPinProps(CompEditor& editor, const SCommonFont& labelFont, const Tex
   outer->addWidget(table, 1);
   outer->addLayout(buttons);
   setFocusProxy(grid_);
-  grid_->setFocus();
   resize(sizeHint().boundedTo(screen()->availableSize()));
   ShowScrolling();
 }
