@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 
+#include "file_byte_sink.h"
 #include "generated_library.h"
 #include "measured_process.h"
 #include "mivo_doc.h"
@@ -20,18 +21,6 @@ namespace mivo::bench {
 namespace {
 
 constexpr int kRounds = 5;
-
-class FileByteSink final : public ByteSink {
- public:
-  explicit FileByteSink(const std::string& path) : stream_(path, std::ios::binary) {}
-  [[nodiscard]] bool Write(std::string_view bytes) override {
-    return static_cast<bool>(
-        stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size())));
-  }
-
- private:
-  std::ofstream stream_;
-};
 
 std::string ReadWhole(const std::string& path) {
   std::string bytes(std::filesystem::file_size(path), '\0');

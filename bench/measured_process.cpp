@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -33,6 +34,7 @@ ProcessCost RunMeasured(const std::vector<std::string>& command) {
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+  const auto start = std::chrono::steady_clock::now();
   pid_t child = 0;
   const int error =
       posix_spawnp(&child, arguments[0], &actions, nullptr, arguments.data(), environ);
@@ -43,18 +45,21 @@ ProcessCost RunMeasured(const std::vector<std::string>& command) {
     std::fprintf(stderr, "%s failed\n", command.front().c_str());
     std::exit(1);
   }
-  return {Seconds(usage.ru_utime) + Seconds(usage.ru_stime),
+  const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+  return {elapsed.count(), Seconds(usage.ru_utime) + Seconds(usage.ru_stime),
           static_cast<double>(usage.ru_maxrss) / 1024.0};
 }
 
 ProcessCost MedianCost(std::vector<ProcessCost> costs) {
+  std::vector<double> elapsed;
   std::vector<double> cpu;
   std::vector<double> peak;
   for (const ProcessCost& cost : costs) {
+    elapsed.push_back(cost.elapsedSeconds);
     cpu.push_back(cost.cpuSeconds);
     peak.push_back(cost.peakMegabytes);
   }
-  return {Median(cpu), Median(peak)};
+  return {Median(elapsed), Median(cpu), Median(peak)};
 }
 
 }  // namespace mivo::bench

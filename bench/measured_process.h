@@ -8,6 +8,7 @@ namespace mivo::bench {
 
 /// What a finished process cost, by the system's own accounting.
 struct ProcessCost {
+  double elapsedSeconds = 0;
   double cpuSeconds = 0;
   double peakMegabytes = 0;
 };
@@ -16,7 +17,7 @@ struct ProcessCost {
 /// a message when the command cannot be run or fails: a measurement of a failure is worth nothing.
 [[nodiscard]] ProcessCost RunMeasured(const std::vector<std::string>& command);
 
-/// Median of both figures, each by itself.
+/// Median of each figure by itself.
 [[nodiscard]] ProcessCost MedianCost(std::vector<ProcessCost> costs);
 
 }  // namespace mivo::bench

@@ -1,6 +1,6 @@
 #include "key_lock_panes.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -45,7 +45,8 @@ KeyLockPanes::KeyLockPanes(const TextTable& texts, Reader read, QWidget* parent)
              CreatePane(ToQString(texts.Text(StringId::ScrollLock)), "scrollLock", parent)} {
   // Whichever window has the focus.
   QCoreApplication::instance()->installEventFilter(this);
-  Update();
+  // A program that starts is told when it becomes the active one, which is soon enough.
+  if (QGuiApplication::applicationState() == Qt::ApplicationActive) Update();
 }
 
 bool KeyLockPanes::eventFilter(QObject* watched, QEvent* event) {

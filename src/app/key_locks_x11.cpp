@@ -10,23 +10,21 @@
 namespace mivo {
 namespace {
 
-/// The state of a lamp of the keyboard; off when the keyboard has no such lamp.
-bool IsLit(Display* display, const char* lamp) {
-  const Atom name = XInternAtom(display, lamp, True);
-  int state = False;
-  return name != 0 &&
-         XkbGetNamedIndicator(display, name, nullptr, &state, nullptr, nullptr) != False &&
-         state != False;
-}
+// The lamps of every keyboard, as the X keyboard extension's key codes number them.
+constexpr unsigned kCapsLamp = 1u << 0;
+constexpr unsigned kNumLamp = 1u << 1;
+constexpr unsigned kScrollLamp = 1u << 2;
 
 }  // namespace
 
 std::optional<KeyLocks> ReadKeyLocks() {
   const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   Display* const display = x11 != nullptr ? x11->display() : nullptr;
-  if (display == nullptr) return std::nullopt;
-  return KeyLocks{IsLit(display, "Caps Lock"), IsLit(display, "Num Lock"),
-                  IsLit(display, "Scroll Lock")};
+  unsigned lit = 0;
+  if (display == nullptr || XkbGetIndicatorState(display, XkbUseCoreKbd, &lit) != Success) {
+    return std::nullopt;
+  }
+  return KeyLocks{(lit & kCapsLamp) != 0, (lit & kNumLamp) != 0, (lit & kScrollLamp) != 0};
 }
 
 }  // namespace mivo

@@ -13,6 +13,7 @@ namespace {
 constexpr int kRowHeight = 15;
 constexpr int kFontHeight = 13;
 constexpr int kAliasIndent = 10;
+constexpr int kMargin = 2;
 const QColor kAliasColor(255, 0, 0);
 
 /// Draws a row by the list's own rules, whatever the desktop's style: names exactly as stored, and
@@ -20,7 +21,9 @@ const QColor kAliasColor(255, 0, 0);
 class NameDelegate final : public QStyledItemDelegate {
  public:
   explicit NameDelegate(SLBCompName& list)
-      : QStyledItemDelegate(&list), list_(list), font_(QStringLiteral("MS UI Gothic")) {
+      : QStyledItemDelegate(&list),
+        list_(list),
+        font_(QFont::substitute(QStringLiteral("MS UI Gothic"))) {
     font_.setPixelSize(kFontHeight);
   }
 
@@ -47,8 +50,10 @@ class NameDelegate final : public QStyledItemDelegate {
     if (isSelected) DrawFocusFrame(*painter, option.rect, color);
     painter->setFont(font_);
     painter->setPen(color);
-    painter->drawText(textRect.adjusted(2, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                      ToQString(entry->Name()));
+    // On its base line: to lay it out in a rectangle takes several times as long.
+    const QFontMetrics metrics(font_);
+    const int top = textRect.top() + (textRect.height() - metrics.height()) / 2;
+    painter->drawText(textRect.left() + kMargin, top + metrics.ascent(), ToQString(entry->Name()));
   }
 
  private:

@@ -13,6 +13,7 @@
 #include "language_library.h"
 #include "main_frame.h"
 #include "path_text.h"
+#include "qt_fonts.h"
 #include "qt_text.h"
 #include "settings_location.h"
 
@@ -51,6 +52,7 @@ CMivoApp::CMivoApp(const SettingsFolders& folders)
 CMivoApp::~CMivoApp() = default;
 
 void CMivoApp::InitInstance(const QStringList& arguments) {
+  InstallFontSubstitutes();
   if (texts_.Translate(LoadLanguageLibrary(languageLibrary_))) TranslateToolkit();
 
   QCoreApplication::setApplicationVersion(ToQString(texts_.Text(StringId::Version)));

@@ -44,7 +44,9 @@ class KeyLockPanesTest : public testing::Test {
                       &bar_};
 };
 
-TEST_F(KeyLockPanesTest, ShowWhatIsOnAtTheStart) {
+TEST_F(KeyLockPanesTest, ShowWhatIsOnOnceTheProgramIsActive) {
+  QApplicationStateChangeEvent active(Qt::ApplicationActive);
+  QCoreApplication::sendEvent(QCoreApplication::instance(), &active);
   EXPECT_EQ(Shown(), "NUM ");
 }
 

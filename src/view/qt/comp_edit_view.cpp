@@ -102,9 +102,11 @@ void CCompEditView::TakeSize() {
   const QSizeF size = QSizeF(viewport()->size()) * ratio_;
   const PixelSize pixels{static_cast<std::int32_t>(std::ceil(size.width())),
                          static_cast<std::int32_t>(std::ceil(size.height()))};
-  back_ = RasterImage::Create(pixels, ImageDepth::Color);
-  front_ = RasterImage::Create(pixels, ImageDepth::Color);
+  // A window changes its size several times before it is shown.
+  back_.reset();
+  front_.reset();
   backIsCurrent_ = false;
+  size_ = pixels;
   editor_.Resize(pixels, ratio_);
 }
 
@@ -115,6 +117,8 @@ void CCompEditView::resizeEvent(QResizeEvent*) {
 void CCompEditView::paintEvent(QPaintEvent*) {
   // The window may have moved to a display of another resolution since it got its size.
   if (viewport()->devicePixelRatioF() != ratio_) TakeSize();
+  if (!back_) back_ = RasterImage::Create(size_, ImageDepth::Color);
+  if (!front_) front_ = RasterImage::Create(size_, ImageDepth::Color);
   if (!back_ || !front_) return;
   if (!backIsCurrent_) {
     editor_.PaintBack(*surfaces_.CreateSurface(*back_));

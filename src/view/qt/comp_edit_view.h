@@ -83,7 +83,8 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   CompEditor editor_;
   std::optional<PixelPoint> mouse_;
   double ratio_ = 0;                  ///< device pixels per logical pixel that the editor knows of
-  std::optional<RasterImage> back_;   ///< nothing when it cannot be had
+  PixelSize size_{};                  ///< of both images
+  std::optional<RasterImage> back_;   ///< nothing until it is painted, or when it cannot be had
   std::optional<RasterImage> front_;  ///< what is on the screen
   bool backIsCurrent_ = false;
   bool settingBars_ = false;

@@ -12,7 +12,9 @@ namespace {
 
 QFont MakeFont(const Font& font, QFont::StyleStrategy edges) {
   QFont made;
-  made.setFamilies({ToQString(font.face)});  // a comma in a name separates nothing
+  // The replacement by name, for which the toolkit need not search. A comma in a name separates
+  // nothing.
+  made.setFamilies({QFont::substitute(ToQString(font.face))});
   made.setPixelSize(font.height);
   made.setWeight(static_cast<QFont::Weight>(std::clamp(font.weight, 1, 1000)));
   made.setItalic(font.italic);
