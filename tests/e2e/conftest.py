@@ -109,7 +109,7 @@ def pytest_runtest_makereport(item, call):
     report = outcome.get_result()
     if not report.failed or not hasattr(item, "desktop"):
         return
-    left = REPORTS / item.name
+    left = REPORTS / f"{item.path.stem}-{item.name}"
     shutil.rmtree(left, ignore_errors=True)
     left.mkdir(parents=True)
     item.desktop.picture().save(left / "screen.png")

@@ -85,7 +85,10 @@ def open_other_dialogs(mivo):
     mivo.menu_by_keys("View", "Pin property")
     mivo.dialog("Pin property").press("Esc")
     mivo.menu_by_keys("Help", "About Mivo...")
-    mivo.dialog("About Mivo").press("Enter")
+    about = mivo.dialog("About Mivo")
+    assert about.control.find(name=f"{mivo.texts.first('Mivo Version ')}0.84.00")
+    assert about.control.find(role="graphic"), "the program's icon"
+    about.press("Enter")
     mivo.menu_by_keys("File", "Save as...")
     mivo.file_dialog().press("Esc")
 

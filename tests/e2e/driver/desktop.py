@@ -12,10 +12,11 @@ from Xlib.protocol import event
 from .bus import Bus
 from .clipboard import Clipboard
 from .screen import Picture
-from .user_input import UserInput
+from .user_input import WATCHING, UserInput
 from .waiting import wait_until
 
 SCREEN = (1600, 1200)
+ON_BEHALF_OF_THE_USER = 2
 
 
 class Desktop:
@@ -28,24 +29,20 @@ class Desktop:
         self.input = UserInput(self._display)
         self.clipboard = Clipboard(self)
         self._start("openbox", "--sm-disable", "--config-file", str(Path(__file__).with_name("openbox.xml")))
-        root = self._display.screen().root
-        supporting = self._display.intern_atom("_NET_SUPPORTING_WM_CHECK")
-        wait_until(lambda: root.get_full_property(supporting, X.AnyPropertyType), "the window manager")
+        wait_until(lambda: self._property(self._root, "_NET_SUPPORTING_WM_CHECK"), "the window manager")
         self.bus = Bus(folder)
 
     def _start_display(self):
+        """A display that chooses a free number and listens on no network; in a window for those who want to watch."""
         readable, writable = os.pipe()
         width, height = SCREEN
+        server = ["Xephyr", "-screen"] if WATCHING else ["Xvfb", "-screen", "0"]
+        options = [f"{width}x{height}x24", "-displayfd", str(writable), "-nolisten", "tcp", "-noreset"]
         with open(self.folder / "display.log", "wb") as log:
             self._started.append(
                 subprocess.Popen(
-                    ["Xvfb", "-displayfd", str(writable), "-screen", "0", f"{width}x{height}x24",
-                     "-nolisten", "tcp", "-noreset"],
-                    pass_fds=[writable],
-                    stdin=subprocess.DEVNULL,
-                    stdout=log,
-                    stderr=log,
-                )  # fmt: skip
+                    [*server, *options], pass_fds=[writable], stdin=subprocess.DEVNULL, stdout=log, stderr=log
+                )
             )
         os.close(writable)
         with open(readable) as answer:
@@ -53,6 +50,7 @@ class Desktop:
         assert number, f"The display did not start: {(self.folder / 'display.log').read_text()}"
         self.name = f":{number}"
         self._display = Xlib.display.Display(self.name)
+        self._root = self._display.screen().root
 
     def _start(self, *command):
         with open(self.folder / f"{command[0]}.log", "wb") as log:
@@ -84,66 +82,89 @@ class Desktop:
         return variables
 
     def picture(self, box=None):
-        root = self._display.screen().root
-        return Picture.of(root, *(box or (0, 0, *SCREEN)))
+        return Picture.of(self._root, *(box or (0, 0, *SCREEN)))
 
     def pointer(self):
-        answer = self._display.screen().root.query_pointer()
+        answer = self._root.query_pointer()
         return answer.root_x, answer.root_y
+
+    # --- Windows, by their titles ------------------------------------------------------------------
 
     def activate(self, title):
         """Brings the window to the front, as a task bar does."""
-        window = wait_until(lambda: self._window(title), f"the window {title!r}")
-        root = self._display.screen().root
-        message = event.ClientMessage(
-            window=window,
-            client_type=self._display.intern_atom("_NET_ACTIVE_WINDOW"),
-            data=(32, [2, X.CurrentTime, 0, 0, 0]),  # 2: on behalf of the user
+        window = self._window(title)
+        self._ask(window, "_NET_ACTIVE_WINDOW", ON_BEHALF_OF_THE_USER, X.CurrentTime)
+        wait_until(
+            lambda: self._property(self._root, "_NET_ACTIVE_WINDOW")[0] == window.id,
+            f"the window {title!r} to get the keyboard",
         )
-        root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
-        active = self._display.intern_atom("_NET_ACTIVE_WINDOW")
 
-        def has_keyboard():
-            return root.get_full_property(active, X.AnyPropertyType).value[0] == window.id
+    def give_keyboard_again(self):
+        """Takes the keyboard from the active window and gives it back."""
+        (number,) = self._property(self._root, "_NET_ACTIVE_WINDOW")
+        self._display.set_input_focus(X.NONE, X.RevertToNone, X.CurrentTime)
+        window = self._display.create_resource_object("window", number)
+        self._ask(window, "_NET_ACTIVE_WINDOW", ON_BEHALF_OF_THE_USER, X.CurrentTime)
 
-        wait_until(has_keyboard, f"the window {title!r} to get the keyboard")
+    def maximise(self, title, on=True):
+        """As the button in the window's frame does."""
+        both = [self._atom(f"_NET_WM_STATE_MAXIMIZED_{way}") for way in ("HORZ", "VERT")]
+        self._ask(self._window(title), "_NET_WM_STATE", int(on), *both, ON_BEHALF_OF_THE_USER)
+
+    def is_maximised(self, title):
+        return self._atom("_NET_WM_STATE_MAXIMIZED_HORZ") in self._property(self._window(title), "_NET_WM_STATE")
+
+    def resize(self, title, width, height):
+        self._window(title).configure(width=width, height=height)
+        self._display.sync()
 
     def close_window(self, title):
-        """Asks the window to close, as the cross in its frame does."""
-        window = wait_until(lambda: self._window(title), f"the window {title!r}")
-        protocol = self._display.intern_atom("WM_DELETE_WINDOW")
-        message = event.ClientMessage(
-            window=window,
-            client_type=self._display.intern_atom("WM_PROTOCOLS"),
-            data=(32, [protocol, X.CurrentTime, 0, 0, 0]),
-        )
-        window.send_event(message)
+        """As the cross in the window's frame does."""
+        window = self._window(title)
+        data = (32, [self._atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0])
+        window.send_event(event.ClientMessage(window=window, client_type=self._atom("WM_PROTOCOLS"), data=data))
+        self._display.sync()
+
+    def _ask(self, window, what, *values):
+        """Asks the window manager to do something with a window."""
+        data = (32, [*values, *[0] * (5 - len(values))])
+        message = event.ClientMessage(window=window, client_type=self._atom(what), data=data)
+        self._root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         self._display.sync()
 
     def wait_popup_menu(self):
         """Waits for a menu that belongs to no menu bar: the program does not list those among its controls."""
 
         def is_open():
-            for window in self._display.screen().root.query_tree().children:
+            for window in self._root.query_tree().children:
                 try:
                     attributes = window.get_attributes()
+                    # The window manager keeps its hands off menus; its own windows have no type.
+                    if attributes.override_redirect and attributes.map_state == X.IsViewable:
+                        if self._property(window, "_NET_WM_WINDOW_TYPE"):
+                            return True
                 except Xlib.error.BadWindow:
                     continue
-                # Windows that the window manager keeps its hands off.
-                if attributes.override_redirect and attributes.map_state == X.IsViewable:
-                    kind = self._display.intern_atom("_NET_WM_WINDOW_TYPE")  # the window manager's own have none
-                    if window.get_full_property(kind, X.AnyPropertyType):
-                        return True
             return False
 
         wait_until(is_open, "a menu to open")
 
     def _window(self, title):
-        root = self._display.screen().root
-        listed = root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)
-        for number in listed.value if listed else ():
+        return wait_until(lambda: self._listed_window(title), f"the window {title!r}")
+
+    def _listed_window(self, title):
+        for number in self._property(self._root, "_NET_CLIENT_LIST"):
             window = self._display.create_resource_object("window", number)
-            name = window.get_full_property(self._display.intern_atom("_NET_WM_NAME"), X.AnyPropertyType)
-            if name and name.value.decode(errors="replace") == title:
-                return window
+            try:
+                if bytes(self._property(window, "_NET_WM_NAME")).decode() == title:
+                    return window
+            except Xlib.error.BadWindow:
+                continue
         return None
+
+    def _atom(self, name):
+        return self._display.intern_atom(name)
+
+    def _property(self, window, name):
+        found = window.get_full_property(self._atom(name), X.AnyPropertyType)
+        return found.value if found else ()

@@ -32,7 +32,7 @@ class Mivo:
             )
         self.application = wait_until(self._application, "the program to show its controls")
         self.frame = wait_until(lambda: self._window(self._is_frame), "the window of the program")
-        wait_until(lambda: self.frame.has("active"), "the window to be active")
+        self._wait_active(lambda: self.frame.has("active"), "the window")
 
     # --- Windows -----------------------------------------------------------------------------------
 
@@ -69,7 +69,7 @@ class Mivo:
 
     def activate(self):
         self.desktop.activate(self.title)
-        wait_until(lambda: self.frame.has("active"), "the window to be active")
+        self._wait_active(lambda: self.frame.has("active"), "the window")
 
     def dialog(self, english):
         """Waits for the dialog with the title; it has the focus then."""
@@ -92,9 +92,9 @@ class Mivo:
             lambda window: window.role == "dialog" and window.name not in own, "a dialog of the toolkit"
         )
 
-    def wait_active(self, role):
-        """Waits for a window of the toolkit's own, whose words are not the program's."""
-        return self._opened(lambda window: window.role == role, f"a window of the kind {role!r}")
+    def toolkit_question(self):
+        """Waits for a message box that the toolkit brings along."""
+        return self._opened(lambda window: window.role == "alert message", "a question of the toolkit")
 
     def file_dialog(self):
         """Waits for the question for a file's name."""
@@ -106,14 +106,27 @@ class Mivo:
 
     def _opened(self, condition, what):
         control = wait_until(lambda: self._window(condition), what)
-        wait_until(lambda: control.has("active"), f"{what} to be active")
+        self._wait_active(lambda: control.has("active"), what)
         dialog = Dialog(self, control)
         for watch in self.watchers:
             watch(self, dialog)
         return dialog
 
-    def has_focus_or_ended(self):
-        return self.process.poll() is not None or self._window(lambda window: window.has("active"))
+    def wait_active_or_ended(self):
+        """Waits until one of the program's windows has the keyboard."""
+
+        def is_active_or_ended():
+            return self.process.poll() is not None or self._window(lambda window: window.has("active"))
+
+        self._wait_active(is_active_or_ended, "another window")
+
+    def _wait_active(self, condition, what):
+        """The toolkit sometimes overlooks that it was given the keyboard; going elsewhere and coming back helps."""
+        try:
+            wait_until(condition, f"{what} to be active", limit=5)
+        except AssertionError:
+            self.desktop.give_keyboard_again()
+            wait_until(condition, f"{what} to be active")
 
     @property
     def other_windows(self):
@@ -289,13 +302,11 @@ class Dialog:
         wait_until(lambda: field.has("checked") != before, f"{english!r} to change")
 
     def choose(self, english, item):
-        """Chooses an item of a list that drops down."""
-        field = self.field(english, "combo box")
-        entry = field.find(name=item, role="list item", showing=False)
-        self.mivo.input.click(field.box.middle)
-        wait_until(lambda: entry.has("showing"), f"the list of {english!r} to open")
-        # By keys: a list that has just dropped down takes a click for the end of the one that opened it.
-        self.mivo.press("Home", *["Down"] * field.find(role="list", showing=False).children.index(entry), "Enter")
+        """Chooses an item of a list that drops down, with the keys that need no list to drop."""
+        field = self.tab_to(english)
+        items = field.find(role="list", showing=False).children
+        index = [each.name for each in items].index(item)
+        self.mivo.press("Home", *["Down"] * index)
         wait_for(lambda: field.name, item, f"the choice of {english!r}")
 
     def is_checked(self, english):
@@ -306,7 +317,7 @@ class Dialog:
         field = self.field(english)
         for _ in range(50):
             if field.has("focused"):
-                return
+                return field
             before = self._focused()
             self.mivo.press("Tab")
             wait_until(lambda before=before: self._focused() != before, "Tab to go on")
@@ -329,34 +340,37 @@ class Dialog:
         self.wait_closed()
 
     def wait_closed(self):
-        def is_closed():
-            try:
-                return not self.control.has("showing")
-            except Gone:
-                return True
+        wait_until(self._is_closed, "the dialog to close")
+        self.mivo.wait_active_or_ended()  # keys sent earlier would be lost
 
-        wait_until(is_closed, "the dialog to close")
-        # Keys sent before the window behind it is active would be lost.
-        wait_until(self.mivo.has_focus_or_ended, "another window to become active")
+    def _is_closed(self):
+        try:
+            return not self.control.has("showing")
+        except Gone:
+            return True
 
     def enter_file(self, path):
         """Answers the question for a file's name."""
-        self._type_file(path)
+        self._type_file(path, self._is_closed)
         self.wait_closed()
 
     def enter_existing_file(self, path):
         """The same for a file that is there, which the user agrees to replace."""
-        self._type_file(path)
-        self.mivo.wait_active("alert message").press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
+        self._type_file(path, lambda: not self.control.has("active"))
+        self.mivo.toolkit_question().press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
         self.wait_closed()
 
-    def _type_file(self, path):
+    def _type_file(self, path, is_taken):
         field = wait_until(self._file_field, "the field of the file's name")
         wait_until(lambda: field.has("focused"), "the field of the file's name to have the focus")
         self.mivo.press("Ctrl+a")
         self.mivo.type(str(path))
         wait_for(lambda: field.text, str(path), "the file's name")
         self.mivo.press("Enter")
+        try:
+            wait_until(is_taken, "the name to be taken", limit=5)
+        except AssertionError:
+            self.mivo.press("Enter")  # the list of names that would complete it took the first one
 
     def proposed_file(self):
         return wait_until(self._file_field, "the field of the file's name").text

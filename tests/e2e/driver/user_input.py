@@ -1,5 +1,8 @@
 """Keyboard and mouse of the display: events as hardware would send them."""
 
+import os
+import time
+
 from Xlib import XK, X
 from Xlib.ext import xtest
 
@@ -16,6 +19,10 @@ KEYS = {
     "Space": "space",
 }
 LEFT, MIDDLE, RIGHT, WHEEL_UP, WHEEL_DOWN = 1, 2, 3, 4, 5
+
+
+# Seconds to pause after each key and click, for those who want to see what happens.
+WATCHING = float(os.environ.get("MIVO_E2E_WATCH", 0))
 
 
 class UserInput:
@@ -84,3 +91,5 @@ class UserInput:
     def _send(self, kind, detail=0, x=0, y=0):
         xtest.fake_input(self._display, kind, detail, x=x, y=y)
         self._display.sync()
+        if WATCHING and kind in (X.KeyPress, X.ButtonRelease):
+            time.sleep(WATCHING)
