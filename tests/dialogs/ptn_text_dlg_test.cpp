@@ -194,6 +194,12 @@ TEST_F(PtnTextDlg, CancelIsNoAnswer) {
   EXPECT_EQ(answer, std::nullopt);
 }
 
+TEST_F(PtnTextDlg, StartsInTheText) {
+  CPtnTextDlg& dialog = Open(kOwnFont);
+  EXPECT_EQ(FocusName(dialog), "textEdit");
+  EXPECT_EQ(Find<QLineEdit>(dialog, "textEdit").selectedText(), QStringLiteral("T"));
+}
+
 TEST_F(PtnTextDlg, TabVisitsTheControlsInReadingOrder) {
   EXPECT_EQ(TabOrder(Open(kOwnFont)),
             (std::vector<std::string>{"textEdit", "leftRadio", "lowerRadio", "commonFontCheck",

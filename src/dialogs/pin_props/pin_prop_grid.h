@@ -62,6 +62,7 @@ class CPinPropGrid final : public QWidget {
 
   // pin_prop_grid_painting.cpp
   void DrawRow(QPainter& painter, int row);
+  void DrawLocation(QPainter& painter, const QRect& cell, SPinLocation location) const;
   void DrawText(QPainter& painter, const QRect& cell, std::u16string_view text) const;
   void DrawCheckMark(QPainter& painter, const QRect& cell) const;
   void DrawLines(QPainter& painter, int row) const;

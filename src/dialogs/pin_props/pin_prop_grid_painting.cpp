@@ -48,7 +48,7 @@ void CPinPropGrid::paintEvent(QPaintEvent* event) {
 void CPinPropGrid::DrawRow(QPainter& painter, int row) {
   const SCompPin& pin = *grid_.Rows()[static_cast<std::size_t>(row)].pin;
   painter.setPen(palette().color(QPalette::Text));
-  DrawText(painter, CellRect(row, kLocation), LocationText(pin.location));
+  DrawLocation(painter, CellRect(row, kLocation), pin.location);
   DrawText(painter, CellRect(row, kName), pin.DisplayName());
   DrawStylePicture(painter, CellRect(row, kStyle),
                    pictures_.Get(pin.type & SCompPin::kShapeMask, devicePixelRatioF()));
@@ -61,6 +61,21 @@ void CPinPropGrid::DrawRow(QPainter& painter, int row) {
     }
   }
   DrawLines(painter, row);
+}
+
+void CPinPropGrid::DrawLocation(QPainter& painter, const QRect& cell, SPinLocation location) const {
+  const QString text = ToQString(LocationText(location));
+  const QRect place = cell.adjusted(kTextMargin, 1, -1, 0);
+  const QFont font = painter.font();
+  // Of most fonts three digits are too wide for the column, and cut off they would mean nothing.
+  const int width = painter.fontMetrics().horizontalAdvance(text);
+  if (width > place.width()) {
+    QFont narrow = font;
+    narrow.setStretch(QFont::Unstretched * place.width() / width);
+    painter.setFont(narrow);
+  }
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  painter.setFont(font);
 }
 
 void CPinPropGrid::DrawText(QPainter& painter, const QRect& cell, std::u16string_view text) const {

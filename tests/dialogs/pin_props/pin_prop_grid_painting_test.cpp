@@ -222,6 +222,13 @@ TEST_F(PinPropGridPaintingTest, FocusShowsOnTheSelectedRow) {
   EXPECT_NE(Picture(1, kLocation), focused);
 }
 
+TEST_F(PinPropGridPaintingTest, EveryDigitOfALocationShows) {
+  Show(MakeComponent({{PinSide::Bottom, 254}, {PinSide::Bottom, 255}, {PinSide::Bottom, 25}}));
+  ASSERT_EQ(Pin(0).location.offset, 25);
+  EXPECT_TRUE(Shows(0, kLocation, "B25"));
+  EXPECT_NE(Picture(1, kLocation), Picture(2, kLocation));
+}
+
 TEST_F(PinPropGridPaintingTest, LongTextStaysInItsCell) {
   const std::u16string longText(100000, u'W');
   Show(MakeComponent({{PinSide::Left, 1, longText, {longText}}, {PinSide::Left, 2, u"A", {u"1"}}}));
