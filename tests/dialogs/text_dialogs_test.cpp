@@ -79,6 +79,17 @@ TEST_F(TextDialogs, LibraryTextOf256CharactersIsRefused) {
   EXPECT_EQ(dialog.Content(), std::u16string(255, u't'));
 }
 
+TEST_F(TextDialogs, ALineBreakOfALibraryTextCountsAsTwoCharacters) {
+  CPropLib dialog(texts_, u"", nullptr);
+  Show(dialog);
+  auto& edit = Find<NoteEdit>(dialog, "textEdit");
+  edit.setPlainText(QString(253, u't') + QStringLiteral("\na"));
+  EXPECT_EQ(MessageOf([&] { Click(dialog, "okButton"); }), u"Enter at most 255 characters.");
+  edit.setPlainText(QString(252, u't') + QStringLiteral("\na"));
+  EXPECT_EQ(MessageOf([&] { Click(dialog, "okButton"); }), std::nullopt);
+  EXPECT_EQ(dialog.Content(), std::u16string(252, u't') + u"\r\na");
+}
+
 TEST_F(TextDialogs, LibraryTextIsTypedInLines) {
   CPropLib dialog(texts_, u"old", nullptr);
   Show(dialog);
