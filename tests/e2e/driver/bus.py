@@ -5,6 +5,7 @@ import threading
 
 from gi.repository import Gio, GLib
 
+from .process import start_process
 from .waiting import Gone
 
 CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
@@ -43,7 +44,7 @@ class Bus:
         configuration = folder / "bus.conf"
         configuration.write_text(CONFIGURATION.format(folder=folder))
         with open(folder / "bus.log", "wb") as log:
-            self._daemon = subprocess.Popen(
+            self._daemon = start_process(
                 ["dbus-daemon", f"--config-file={configuration}", "--print-address=1", "--nofork", "--nopidfile"],
                 stdout=subprocess.PIPE,
                 stderr=log,

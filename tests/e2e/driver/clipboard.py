@@ -2,6 +2,8 @@
 
 import subprocess
 
+from .process import start_process
+
 TEXT = "UTF8_STRING"
 
 
@@ -16,7 +18,7 @@ class Clipboard:
         """Owns the clipboard with this content until the next owner comes."""
         data = content.encode() if isinstance(content, str) else content
         self.let_go()
-        self._owner = subprocess.Popen(
+        self._owner = start_process(
             ["xclip", "-selection", "clipboard", "-quiet", "-target", target, "-in"],
             env=self._desktop.environment(),
             stdin=subprocess.PIPE,

@@ -1,7 +1,6 @@
 """A display of its own for every story: screen, window manager, message bus, clipboard."""
 
 import os
-import subprocess
 from pathlib import Path
 
 import Xlib.display
@@ -11,6 +10,7 @@ from Xlib.protocol import event
 
 from .bus import Bus
 from .clipboard import Clipboard
+from .process import start_process
 from .screen import Picture
 from .user_input import WATCHING, UserInput
 from .waiting import wait_until
@@ -39,11 +39,7 @@ class Desktop:
         server = ["Xephyr", "-screen"] if WATCHING else ["Xvfb", "-screen", "0"]
         options = [f"{width}x{height}x24", "-displayfd", str(writable), "-nolisten", "tcp", "-noreset"]
         with open(self.folder / "display.log", "wb") as log:
-            self._started.append(
-                subprocess.Popen(
-                    [*server, *options], pass_fds=[writable], stdin=subprocess.DEVNULL, stdout=log, stderr=log
-                )
-            )
+            self._started.append(start_process([*server, *options], pass_fds=[writable], stdout=log, stderr=log))
         os.close(writable)
         with open(readable) as answer:
             number = answer.readline().strip()
@@ -54,9 +50,7 @@ class Desktop:
 
     def _start(self, *command):
         with open(self.folder / f"{command[0]}.log", "wb") as log:
-            self._started.append(
-                subprocess.Popen(command, env=self.environment(), stdin=subprocess.DEVNULL, stdout=log, stderr=log)
-            )
+            self._started.append(start_process(command, env=self.environment(), stdout=log, stderr=log))
 
     def end(self):
         self.clipboard.let_go()

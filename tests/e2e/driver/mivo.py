@@ -1,10 +1,10 @@
 """A running Mivo and its windows."""
 
 import re
-import subprocess
 from functools import cached_property
 
 from .control import Control
+from .process import start_process
 from .waiting import Gone, wait_for, wait_until
 
 DIALOG_ROLES = ("dialog", "alert message", "frame", "window")
@@ -21,14 +21,8 @@ class Mivo:
         self.log = folder / f"mivo-{len(list(folder.glob('mivo-*.log')))}.log"
         credentials = {"user": user.pw_uid, "group": user.pw_gid, "extra_groups": []} if user else {}
         with open(self.log, "wb") as log:
-            self.process = subprocess.Popen(
-                [str(part) for part in command],
-                cwd=folder,
-                env=environment,
-                stdin=subprocess.DEVNULL,
-                stdout=log,
-                stderr=log,
-                **credentials,
+            self.process = start_process(
+                [str(part) for part in command], cwd=folder, env=environment, stdout=log, stderr=log, **credentials
             )
         self.application = wait_until(self._application, "the program to show its controls")
         self.frame = wait_until(lambda: self._window(self._is_frame), "the window of the program")
