@@ -31,6 +31,7 @@
 #include "schematic_data.h"
 #include "start_label.h"
 #include "status_pane.h"
+#include "window_frame.h"
 
 namespace mivo {
 namespace {
@@ -38,6 +39,8 @@ namespace {
 constexpr std::int32_t kShowNormal = 1;
 constexpr std::int32_t kShowMinimized = 2;
 constexpr std::int32_t kShowMaximized = 3;
+
+constexpr std::size_t kMaxFaceName = 32;
 
 /// The file that a drag brings, if it is one local file.
 QString DraggedPath(const QMimeData& data) {
@@ -146,7 +149,8 @@ void CMainFrame::ReadSettings() {
   labelFont_.height = settings_.GetInt(u"LabelFont", u"Height", labelFont_.height);
   labelFont_.weight = settings_.GetInt(u"LabelFont", u"IsBold", labelFont_.weight);
   labelFont_.italic = settings_.GetInt(u"LabelFont", u"IsItalic", 0) != 0;
-  labelFont_.face = settings_.GetString(u"LabelFont", u"FaceName", labelFont_.face);
+  labelFont_.face =
+      settings_.GetString(u"LabelFont", u"FaceName", labelFont_.face).substr(0, kMaxFaceName);
   view_->SetCommonFont(labelFont_);
 
   // Any value but 0 means true, and so does a missing one.
@@ -162,11 +166,12 @@ void CMainFrame::ReadSettings() {
 void CMainFrame::SaveWindowPlacement() {
   if (!isVisible()) return;
   const bool isNormal = !isMaximized() && !isMinimized() && !isFullScreen();
-  const QSize size = isNormal ? this->size() : normalGeometry().size();
+  const QSize inside = isNormal ? this->size() : normalGeometry().size();
   const std::int32_t show =
       isMinimized() ? kShowMinimized : (isMaximized() ? kShowMaximized : kShowNormal);
   settings_.SetInt(u"WindowPosition", u"cmdShow", show);
-  if (!size.isValid()) return;
+  if (!inside.isValid()) return;
+  const QSize size = inside.grownBy(CountedFrame(*this));
   settings_.SetInt(u"WindowPosition", u"Width", size.width());
   settings_.SetInt(u"WindowPosition", u"Height", size.height());
 }

@@ -16,6 +16,7 @@
 #include "qt_fonts.h"
 #include "qt_text.h"
 #include "settings_location.h"
+#include "window_frame.h"
 
 namespace mivo {
 namespace {
@@ -87,8 +88,9 @@ void CMivoApp::ShowFrame() {
   const std::int32_t width = settings_.GetInt(u"WindowPosition", u"Width", kUseDefault);
   const std::int32_t height = settings_.GetInt(u"WindowPosition", u"Height", kUseDefault);
   const bool isMaximized = settings_.GetInt(u"WindowPosition", u"cmdShow", 1) == kMaximized;
-  frame_->resize(InitialLength(width, kMinWidth, kDefaultSize.width()),
-                 InitialLength(height, kMinHeight, kDefaultSize.height()));
+  const QSize size(InitialLength(width, kMinWidth, kDefaultSize.width()),
+                   InitialLength(height, kMinHeight, kDefaultSize.height()));
+  frame_->resize(size.shrunkBy(CountedFrame(*frame_)));
   if (isMaximized) {
     frame_->showMaximized();
   } else {

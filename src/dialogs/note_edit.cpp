@@ -41,6 +41,16 @@ QSize NoteEdit::minimumSizeHint() const {
           visibleCharacters_.height() * metrics.lineSpacing() + around};
 }
 
+bool NoteEdit::event(QEvent* event) {
+  // The window around it may have a shortcut of the same keys, which would copy something else.
+  if (event->type() == QEvent::ShortcutOverride &&
+      static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+    event->accept();
+    return true;
+  }
+  return QPlainTextEdit::event(event);
+}
+
 void NoteEdit::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   auto* const dialog = qobject_cast<QDialog*>(window());

@@ -24,6 +24,7 @@ class NoteEdit final : public QPlainTextEdit {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
 

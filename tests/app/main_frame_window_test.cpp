@@ -1,8 +1,10 @@
+#include <QClipboard>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
 #include <QToolBar>
 
+#include "command_actions.h"
 #include "frame_rig.h"
 #include "wait_until.h"
 
@@ -137,6 +139,81 @@ TEST_F(MainFrameWindowTest, F6GoesRoundViewListAndNote) {
   EXPECT_EQ(forward, "nameList noteBox componentView ");
   QTest::keyClick(&Frame(), Qt::Key_F6, Qt::ShiftModifier);
   EXPECT_EQ(focused(), "noteBox");
+}
+
+TEST_F(MainFrameWindowTest, LabelFontIsThatOfTheSettings) {
+  const SCommonFont usual = Frame().View().CommonFont();
+  EXPECT_EQ(usual.face, u"Tahoma");
+  EXPECT_EQ(usual.height, 9);
+  EXPECT_EQ(usual.weight, 400);
+  EXPECT_FALSE(usual.italic);
+  Put("FONT.INI",
+      "[LabelFont]\nHeight=12\nIsBold=700\nIsItalic=1\nFaceName=" + std::string(40, 'f') + "\n");
+  SettingsFile settings(Folder() / "FONT.INI");
+  const TextTable texts;
+  const CMainFrame frame(settings, texts);
+  const SCommonFont& font = frame.View().CommonFont();
+  EXPECT_EQ(font.face, std::u16string(32, u'f')) << "no longer than that";
+  EXPECT_EQ(font.height, 12);
+  EXPECT_EQ(font.weight, 700);
+  EXPECT_TRUE(font.italic);
+}
+
+TEST_F(MainFrameWindowTest, FrameHandsTheFocusToTheView) {
+  Frame().show();
+  Frame().activateWindow();
+  ASSERT_TRUE(WaitUntil([&] { return Frame().isActiveWindow(); }));
+  Frame().Names().setFocus();
+  Frame().setFocus();
+  EXPECT_TRUE(Frame().View().hasFocus());
+}
+
+TEST_F(MainFrameWindowTest, NoteKeepsCopyingWhileTheViewHasSomethingToCopy) {
+  Put("parts.ZLB", LibraryFile(ComponentRecord("a", "a%20note")));
+  Frame().show();
+  Frame().activateWindow();
+  ASSERT_TRUE(WaitUntil([&] { return Frame().isActiveWindow(); }));
+  Frame().Open(PathOf("parts.ZLB"));
+  CompEditor& editor = Frame().View().Editor();
+  ASSERT_TRUE(editor.SelectPin(editor.Component()->Pins().front().location));
+  ASSERT_TRUE(IsEnabled(Command::Copy));
+  auto* const note = Frame().findChild<QPlainTextEdit*>(QStringLiteral("noteBox"));
+  note->setFocus();
+  note->selectAll();
+  QTest::keyClick(note, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "a note");
+  Frame().View().setFocus();
+  QTest::keyClick(&Frame().View(), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QLatin1String("+MIVO_PIN")));
+  QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(MainFrameWindowTest, AcceleratorsWorkWhereverTheFocusIs) {
+  Frame().show();
+  Frame().activateWindow();
+  ASSERT_TRUE(WaitUntil([&] { return Frame().isActiveWindow(); }));
+  auto* const note = Frame().findChild<QPlainTextEdit*>(QStringLiteral("noteBox"));
+  const std::vector<QWidget*> parts = {&Frame().View(), &Frame().Names(), note};
+  for (QWidget* const part : parts) {
+    part->setFocus();
+    Prompts().openPaths = {QString()};
+    QTest::keyClick(part, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_TRUE(Prompts().openPaths.empty()) << part->objectName().toStdString();
+  }
+}
+
+TEST_F(MainFrameWindowTest, NameMenuHoldsItsCommandsInOrder) {
+  const TextTable texts;
+  const CommandActions actions(texts);
+  QMenu menu;
+  actions.FillNameMenu(menu);
+  std::string text;
+  for (const QAction* const action : menu.actions()) {
+    text += action->isSeparator() ? "| " : action->text().toStdString() + ", ";
+  }
+  EXPECT_EQ(text,
+            "Cut component, Copy component, Paste component, | New component..., "
+            "Component property..., | Add alias..., ");
 }
 
 TEST_F(MainFrameWindowTest, StatusTellsPlaceZoomAndName) {
