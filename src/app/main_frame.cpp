@@ -256,6 +256,8 @@ void CMainFrame::Execute(Command command) {
       break;
     default:
       view_->Editor().Execute(command);
+      // What goes on in the view wants its keys there: Esc above all.
+      if (command == Command::Paste || Action(command)->actionGroup() != nullptr) view_->setFocus();
       break;
   }
   UpdateActions();

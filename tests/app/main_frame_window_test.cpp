@@ -141,6 +141,22 @@ TEST_F(MainFrameWindowTest, F6GoesRoundViewListAndNote) {
   EXPECT_EQ(focused(), "noteBox");
 }
 
+TEST_F(MainFrameWindowTest, ToolsAndPasteTakeTheKeysToTheView) {
+  Put("a.ZLB", LibraryFile(ComponentRecord("A")));
+  Frame().Open(PathOf("a.ZLB"));
+  Frame().show();
+  const auto focusAfter = [&](Command command) {
+    Frame().Names().setFocus();
+    Trigger(command);
+    return Frame().focusWidget()->objectName().toStdString();
+  };
+  EXPECT_EQ(focusAfter(Command::LineTool), "componentView");
+  EXPECT_EQ(focusAfter(Command::Selector), "componentView");
+  QGuiApplication::clipboard()->setText(QStringLiteral("+MIVO_PIN_V.1.0\n+PIN,N:A,-PIN\n"));
+  EXPECT_EQ(focusAfter(Command::Paste), "componentView");
+  EXPECT_EQ(focusAfter(Command::ZoomIn), "nameList");
+}
+
 TEST_F(MainFrameWindowTest, LabelFontIsThatOfTheSettings) {
   const SCommonFont usual = Frame().View().CommonFont();
   EXPECT_EQ(usual.face, u"Tahoma");

@@ -165,7 +165,7 @@ def small_disk(folder):
     mount = ["mount", "-t", "tmpfs", "-o", "size=64k", "tmpfs", path]
     mounted = subprocess.run(mount, capture_output=True, text=True)
     if mounted.returncode != 0:
-        pytest.skip(f"A small disk cannot be mounted here: {mounted.stderr.strip()}")
+        pytest.skip(f"A small disk cannot be mounted here: {mounted.stderr.splitlines()[0]}")
     yield path
     subprocess.run(["umount", path], check=True)
 
