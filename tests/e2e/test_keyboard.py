@@ -1,6 +1,24 @@
 """The whole program by keyboard alone."""
 
+import pytest
+
 from driver.waiting import wait_for, wait_until
+
+CONTROLS = ("push button", "check box", "radio button", "text", "combo box", "spin button", "list")
+
+
+@pytest.fixture
+def watchers():
+    return [every_control_has_a_name]
+
+
+def every_control_has_a_name(mivo, dialog):
+    """For people who hear the dialog; the toolkit's own dialogs are the toolkit's."""
+    if dialog.control.name not in mivo.texts.everything():
+        return
+    controls = [each for each in dialog.control.walk(skip=CONTROLS) if each.role in CONTROLS and each.has("showing")]
+    assert controls, "a dialog has a button at least"
+    assert [each for each in controls if not each.label] == [], f"without a name in {dialog.control.name!r}"
 
 
 def test_everything_by_keyboard(start, sample, folder, desktop):

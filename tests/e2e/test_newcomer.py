@@ -42,8 +42,10 @@ def test_a_newcomer_makes_a_library(start, folder, cli):
     mivo = start(settings=LARGE)
     assert mivo.title == "Mivo"
     assert mivo.names == []
+    assert tells_how_to_begin(mivo)
 
     make_component(mivo)
+    assert not tells_how_to_begin(mivo)
     drawing = Drawing(mivo, width=8, height=8)
     drawing.zoom_to(5)
     place_pins(mivo, drawing)
@@ -85,6 +87,11 @@ def check_records(path, cli):
 
     found = subprocess.run([cli, "check", "--strict", path], capture_output=True, text=True)
     assert (found.returncode, found.stdout) == (0, ""), found.stderr
+
+
+def tells_how_to_begin(mivo):
+    labels = mivo.frame.all(name=mivo.texts.first("No component is open"), role="label")
+    return any(label.has("showing") for label in labels)
 
 
 def make_component(mivo):

@@ -4,7 +4,7 @@ import re
 
 import pytest
 from conftest import GERMAN
-from test_keyboard import test_everything_by_keyboard  # noqa: F401 - the same once more in German
+from test_keyboard import every_control_has_a_name, test_everything_by_keyboard  # noqa: F401 - once more in German
 from test_newcomer import test_a_newcomer_makes_a_library  # noqa: F401
 
 # What a control's name may hold beside words: values, not texts.
@@ -21,7 +21,7 @@ def language():
 
 @pytest.fixture
 def watchers():
-    return [has_no_english]
+    return [has_no_english, every_control_has_a_name]
 
 
 def has_no_english(mivo, dialog):
