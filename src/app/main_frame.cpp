@@ -31,7 +31,6 @@
 #include "schematic_data.h"
 #include "start_label.h"
 #include "status_pane.h"
-#include "window_frame.h"
 
 namespace mivo {
 namespace {
@@ -166,12 +165,11 @@ void CMainFrame::ReadSettings() {
 void CMainFrame::SaveWindowPlacement() {
   if (!isVisible()) return;
   const bool isNormal = !isMaximized() && !isMinimized() && !isFullScreen();
-  const QSize inside = isNormal ? this->size() : normalGeometry().size();
+  const QSize size = isNormal ? this->size() : normalGeometry().size();
   const std::int32_t show =
       isMinimized() ? kShowMinimized : (isMaximized() ? kShowMaximized : kShowNormal);
   settings_.SetInt(u"WindowPosition", u"cmdShow", show);
-  if (!inside.isValid()) return;
-  const QSize size = inside.grownBy(CountedFrame(*this));
+  if (!size.isValid()) return;
   settings_.SetInt(u"WindowPosition", u"Width", size.width());
   settings_.SetInt(u"WindowPosition", u"Height", size.height());
 }

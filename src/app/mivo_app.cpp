@@ -16,7 +16,6 @@
 #include "qt_fonts.h"
 #include "qt_text.h"
 #include "settings_location.h"
-#include "window_frame.h"
 
 namespace mivo {
 namespace {
@@ -88,9 +87,8 @@ void CMivoApp::ShowFrame() {
   const std::int32_t width = settings_.GetInt(u"WindowPosition", u"Width", kUseDefault);
   const std::int32_t height = settings_.GetInt(u"WindowPosition", u"Height", kUseDefault);
   const bool isMaximized = settings_.GetInt(u"WindowPosition", u"cmdShow", 1) == kMaximized;
-  const QSize size(InitialLength(width, kMinWidth, kDefaultSize.width()),
-                   InitialLength(height, kMinHeight, kDefaultSize.height()));
-  frame_->resize(size.shrunkBy(CountedFrame(*frame_)));
+  frame_->resize(InitialLength(width, kMinWidth, kDefaultSize.width()),
+                 InitialLength(height, kMinHeight, kDefaultSize.height()));
   if (isMaximized) {
     frame_->showMaximized();
   } else {

@@ -74,7 +74,7 @@ void PrintRow(const char* what, double baseline, double measured) {
 void MeasureStart() {
   std::vector<ProcessCost> empty, mivo;
   for (int round = 0; round < kStarts; ++round) {
-    empty.push_back(RunMeasured({MIVO_EMPTY_WINDOW}));
+    empty.push_back(RunMeasured({MIVO_BARE_WINDOW}));
     mivo.push_back(RunMeasured({MIVO_WINDOW, "start", MIVO_SAMPLE_LIBRARY}));
   }
   std::printf("To the first painted window, median of %d starts each\n", kStarts);
