@@ -42,7 +42,7 @@ constexpr std::array<Item, 7> kTools = {
     Command::PolygonTool, Command::ArcTool, Command::TextTool};
 constexpr std::array<Item, 4> kToolMenuEnd = {kSeparator, Command::EditNodeMode, kSeparator,
                                               Command::CreateBitPattern};
-constexpr std::array<Item, 1> kHelpMenu = {Command::About};
+constexpr std::array<Item, 3> kHelpMenu = {Command::SafetyCopies, kSeparator, Command::About};
 constexpr std::array<Item, 18> kToolBar = {
     Command::New,    Command::Open,         Command::Save,  kSeparator,      Command::Undo,
     Command::Cut,    Command::Copy,         Command::Paste, Command::Delete, kSeparator,

@@ -1,7 +1,10 @@
 #include "frame_prompts.h"
 
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QFileDialog>
+#include <QPushButton>
+#include <QUrl>
 #include <array>
 #include <utility>
 
@@ -95,6 +98,35 @@ std::optional<std::u16string> DialogPrompts::AskLibraryText(std::u16string_view 
 
 void DialogPrompts::ShowAbout() {
   CAboutDlg(texts_, &frame_).exec();
+}
+
+RecoveryAnswer DialogPrompts::AskRecovery(const QString& question) {
+  QMessageBox box(QMessageBox::Question, ToQString(kProgramName), question, QMessageBox::NoButton,
+                  &frame_);
+  box.setTextFormat(Qt::PlainText);  // names are no mark-up
+  const auto add = [&](StringId text, QMessageBox::ButtonRole role) {
+    return box.addButton(ToQString(texts_.Text(text)), role);
+  };
+  const QAbstractButton* const restore = add(StringId::RecoveryRestore, QMessageBox::AcceptRole);
+  const QAbstractButton* const remove = add(StringId::RecoveryRemove, QMessageBox::DestructiveRole);
+  QPushButton* const later = add(StringId::RecoveryLater, QMessageBox::RejectRole);
+  box.setEscapeButton(later);
+  box.exec();
+  if (box.clickedButton() == restore) return RecoveryAnswer::Restore;
+  return box.clickedButton() == remove ? RecoveryAnswer::Remove : RecoveryAnswer::Later;
+}
+
+void DialogPrompts::ShowSafetyCopies(const QString& folder) {
+  const QString text =
+      ToQString(texts_.Text(StringId::SafetyCopiesPlace)).replace(QStringLiteral("%s"), folder);
+  QMessageBox box(QMessageBox::Information, ToQString(kProgramName), text, QMessageBox::Ok,
+                  &frame_);
+  box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Ok)->setText(ToQString(texts_.Text(dialog_text::kOk)));
+  const QAbstractButton* const open =
+      box.addButton(ToQString(texts_.Text(StringId::OpenFolder)), QMessageBox::ActionRole);
+  box.exec();
+  if (box.clickedButton() == open) QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
 }
 
 }  // namespace mivo

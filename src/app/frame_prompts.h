@@ -14,6 +14,7 @@ class QWidget;
 namespace mivo {
 
 enum class SaveAnswer { Save, Discard, Cancel };
+enum class RecoveryAnswer { Restore, Remove, Later };
 
 /// What the main frame asks the user, so that tests can answer. An empty path is a cancelled
 /// dialog.
@@ -36,6 +37,11 @@ class FramePrompts {
   [[nodiscard]] virtual std::optional<std::u16string> AskAlias(std::u16string_view name) = 0;
   [[nodiscard]] virtual std::optional<std::u16string> AskLibraryText(std::u16string_view text) = 0;
   virtual void ShowAbout() = 0;
+
+  /// What becomes of changes that were not saved; `question` tells them.
+  [[nodiscard]] virtual RecoveryAnswer AskRecovery(const QString& question) = 0;
+  /// Tells where safety copies are, and opens the folder if that is wished.
+  virtual void ShowSafetyCopies(const QString& folder) = 0;
 };
 
 /// Asks with real dialogs over `frame`.
@@ -54,6 +60,8 @@ class DialogPrompts final : public FramePrompts {
   [[nodiscard]] std::optional<std::u16string> AskAlias(std::u16string_view name) override;
   [[nodiscard]] std::optional<std::u16string> AskLibraryText(std::u16string_view text) override;
   void ShowAbout() override;
+  [[nodiscard]] RecoveryAnswer AskRecovery(const QString& question) override;
+  void ShowSafetyCopies(const QString& folder) override;
 
  private:
   [[nodiscard]] QString LibraryFilter() const;

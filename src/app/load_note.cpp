@@ -5,6 +5,7 @@
 namespace mivo {
 
 void LoadNote::Report(const Finding& finding) {
+  hasLosses_ = true;
   if (finding.kind == FindingKind::LaterVersion) isLaterVersion_ = true;
   const bool isError = SeverityOf(finding.kind) == Severity::Error;
   if (!isError && finding.kind != FindingKind::DataCutOff) return;

@@ -18,6 +18,8 @@ class LoadNote final : public FindingSink {
 
   /// The file says that a later version wrote it.
   [[nodiscard]] bool IsLaterVersion() const noexcept { return isLaterVersion_; }
+  /// Whether there was anything that a save would not write as it was.
+  [[nodiscard]] bool HasLosses() const noexcept { return hasLosses_; }
 
   /// "Line 12: what happened"; empty when nothing did.
   [[nodiscard]] QString Text(const TextTable& texts) const;
@@ -25,6 +27,7 @@ class LoadNote final : public FindingSink {
  private:
   std::optional<Finding> finding_;
   bool isLaterVersion_ = false;
+  bool hasLosses_ = false;
 };
 
 }  // namespace mivo

@@ -30,6 +30,7 @@
 #include "qt_text.h"
 #include "schematic_data.h"
 #include "start_label.h"
+#include "state_folder.h"
 #include "status_pane.h"
 
 namespace mivo {
@@ -53,6 +54,7 @@ CMainFrame::CMainFrame(SettingsFile& settings, const TextTable& texts)
     : settings_(settings),
       texts_(texts),
       prompts_(std::make_unique<DialogPrompts>(*this, texts)),
+      guard_(FindStateFolder()),
       propertyPrompts_(texts, labelFont_, *this),
       actions_(new CommandActions(texts, this)),
       view_(new CCompEditView(propertyPrompts_, this)),
@@ -120,6 +122,7 @@ void CMainFrame::CreateParts() {
     UpdateActions();
     UpdateStatus();
   });
+  connect(view_, &CCompEditView::OperationCompleted, this, &CMainFrame::RecordChanges);
   connect(view_, &CCompEditView::PinGridToggled, this, &CMainFrame::TogglePinGrid);
   connect(view_, &CCompEditView::ContextMenuRequested, this, [this](QPoint at) {
     QMenu menu;
@@ -246,6 +249,9 @@ void CMainFrame::Execute(Command command) {
     case Command::LibraryProperty:
       EditLibraryProperty();
       break;
+    case Command::SafetyCopies:
+      ShowSafetyCopies();
+      break;
     case Command::About:
       prompts_->ShowAbout();
       break;
@@ -258,6 +264,7 @@ void CMainFrame::Execute(Command command) {
       if (command == Command::Paste || Action(command)->actionGroup() != nullptr) view_->setFocus();
       break;
   }
+  RecordChanges();
   UpdateActions();
 }
 
@@ -276,6 +283,7 @@ void CMainFrame::UpdateActions() {
       case Command::Exit:
       case Command::NewComponent:
       case Command::LibraryProperty:
+      case Command::SafetyCopies:
       case Command::About:
         break;
       case Command::SaveAs:
@@ -361,6 +369,7 @@ bool CMainFrame::MayEndSession() {
 void CMainFrame::closeEvent(QCloseEvent* event) {
   closeHeldBack_ = busy_;
   event->setAccepted((mayEnd_ && !busy_) || MayLeaveLibrary());
+  if (event->isAccepted()) guard_.Left();
 }
 
 void CMainFrame::resizeEvent(QResizeEvent* event) {

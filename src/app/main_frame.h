@@ -6,6 +6,7 @@
 
 #include "comp_edit_doc.h"
 #include "frame_prompts.h"
+#include "library_guard.h"
 #include "mivo_doc.h"
 #include "property_dialogs.h"
 #include "settings_file.h"
@@ -17,7 +18,6 @@ namespace mivo {
 class CCompEditView;
 class CPinProps;
 class CommandActions;
-class FileWriter;
 class NamePane;
 class SLBCompName;
 class StartLabel;
@@ -46,6 +46,10 @@ class CMainFrame final : public QMainWindow {
 
   /// The file belongs to another program that waits for it: it can be saved, but not elsewhere.
   void SetTemporaryFileMode();
+
+  /// Asks about changes that a Mivo which is gone had not saved: those of the library at `onlyOf`,
+  /// or of any when that is empty. True when one was restored; it is the open library now.
+  bool OfferRecovery(const QString& onlyOf = {});
 
   /// Asks about changes because the desktop session ends; false to keep it from ending. Nothing is
   /// asked again when the window is closed then.
@@ -94,12 +98,21 @@ class CMainFrame final : public QMainWindow {
   struct LoadOutcome {
     QString note;  ///< what there is to tell about the file; usually nothing
     bool isLaterVersion = false;
+    ContentIdentity content{};
+    LibraryGuard::Losses losses = LibraryGuard::Losses::None;
   };
   /// Fills the empty library.
   LoadOutcome LoadFrom(const QString& path);
-  /// False when the file was not replaced. `path` is only shown.
-  bool WriteInto(FileWriter& file, const QString& path);
+  [[nodiscard]] LibraryGuard::SaveResult WriteInto(const QString& path);
   void EndTask();
+
+  // main_frame_safety.cpp: so that nothing gets lost
+  [[nodiscard]] LibraryView OpenLibrary() const;
+  /// Puts what has changed since the last time into the recovery file.
+  void RecordChanges();
+  void Restore(FoundRecovery& found);
+  [[nodiscard]] QString RecoveryQuestion(const FoundRecovery& found) const;
+  void ShowSafetyCopies();
 
   // main_frame_component.cpp: components and their names
   void CommitEdit();
@@ -120,6 +133,8 @@ class CMainFrame final : public QMainWindow {
   const TextTable& texts_;
   std::unique_ptr<FramePrompts> prompts_;
   SMivoDoc doc_;
+  LibraryGuard guard_;
+  std::uint64_t recordedRevision_ = 0;
   bool modified_ = false;
   bool temporaryFileMode_ = false;
   bool mayEnd_ = false;  ///< nothing has happened since the session's end was agreed to

@@ -4,11 +4,9 @@
 #include <QFileInfo>
 
 #include "comp_edit_view.h"
-#include "file_writer.h"
 #include "lb_comp_name.h"
 #include "main_frame.h"
 #include "name_pane.h"
-#include "path_text.h"
 #include "qt_text.h"
 #include "status_pane.h"
 
@@ -38,6 +36,7 @@ void CMainFrame::New() {
   Names().Names().SetEntries({});
   doc_.Clear();
   modified_ = false;
+  guard_.OpenedWithoutFile(OpenLibrary());
   status_->ShowNote(QString());
   ShowTitle();
   UpdateActions();
@@ -61,6 +60,12 @@ void CMainFrame::Open(const QString& path) {
   if (loaded.isLaterVersion) prompts_->Warn(StringId::LaterVersion);
   ShowTitle();
   RefillNames();
+  if (doc_.Path()) {
+    guard_.Opened(OpenLibrary(), loaded.content, loaded.losses);
+  } else {
+    guard_.OpenedWithoutFile(OpenLibrary());
+  }
+  if (guard_.IsOpenElsewhere()) prompts_->Warn(StringId::OpenElsewhere);
   UpdateStatus();
   status_->ShowNote(loaded.note);
 }
@@ -96,15 +101,19 @@ bool CMainFrame::SaveAs() {
 bool CMainFrame::WriteTo(const QString& path) {
   CommitEdit();
   const std::u16string pathText = ToText(path);
-  FileWriter file(PathFromText(pathText));
-  if (!WriteInto(file, path)) {
-    status_->ShowNote(QString::fromStdString(file.ErrorText()));
+  if (guard_.HasChangedOnDisk(pathText) && !prompts_->Confirm(StringId::ChangedOnDisk)) {
+    return false;
+  }
+  const LibraryGuard::SaveResult result = WriteInto(path);
+  QString note = QString::fromStdString(result.errorMessage);
+  if (!result.copyKept && note.isEmpty()) note = ToQString(texts_.Text(StringId::NoSafetyCopy));
+  status_->ShowNote(note);
+  if (!result.saved) {
     prompts_->Warn(StringId::SaveFailed);
     return false;
   }
   doc_.SetPath(pathText);
   modified_ = false;
-  status_->ShowNote(QString());
   ShowTitle();
   UpdateActions();
   return true;

@@ -5,7 +5,6 @@
 #include <QScopeGuard>
 #include <utility>
 
-#include "file_writer.h"
 #include "lb_comp_name.h"
 #include "load_note.h"
 #include "main_frame.h"
@@ -39,14 +38,15 @@ CMainFrame::LoadOutcome CMainFrame::LoadFrom(const QString& path) {
   LoadNote note;
   // What was read before a fault stays, without a path.
   static_cast<void>(doc_.Load(content.Value(), pathText, &note, &progress));
-  return {note.Text(texts_), note.IsLaterVersion()};
+  return {note.Text(texts_), note.IsLaterVersion(), IdentityOf(content.Value()),
+          note.HasLosses() ? LibraryGuard::Losses::Some : LibraryGuard::Losses::None};
 }
 
-bool CMainFrame::WriteInto(FileWriter& file, const QString& path) {
+LibraryGuard::SaveResult CMainFrame::WriteInto(const QString& path) {
   busy_ = true;
   const auto end = qScopeGuard([this] { EndTask(); });
   TaskProgress progress(*status_, TaskText(texts_, StringId::Saving, path), 1, clock_);
-  return doc_.Write(file, Names().Names().Entries(), &progress) && file.Commit();
+  return guard_.Save(OpenLibrary(), ToText(path), &progress);
 }
 
 void CMainFrame::EndTask() {

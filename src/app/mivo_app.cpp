@@ -67,12 +67,14 @@ void CMivoApp::InitInstance(const QStringList& arguments) {
 
   frame_ = std::make_unique<CMainFrame>(settings_, texts_);
   ShowFrame();
-  const QString file = parser.positionalArguments().value(0);
-  if (file.isEmpty()) return;
-  frame_->Open(QFileInfo(file).absoluteFilePath());
-  if (QFileInfo(file).suffix().compare(QLatin1String("tmp"), Qt::CaseInsensitive) == 0) {
-    frame_->SetTemporaryFileMode();
-  }
+  const QString argument = parser.positionalArguments().value(0);
+  const QFileInfo file(argument);
+  const QString path = argument.isEmpty() ? argument : file.absoluteFilePath();
+  const bool isTemporary = file.suffix().compare(QLatin1String("tmp"), Qt::CaseInsensitive) == 0;
+  // Whoever waits for a temporary file gets that and nothing else.
+  const bool isRestored = frame_->OfferRecovery(isTemporary ? path : QString());
+  if (!path.isEmpty() && !isRestored) frame_->Open(path);
+  if (isTemporary) frame_->SetTemporaryFileMode();
 }
 
 void CMivoApp::TranslateToolkit() {

@@ -38,6 +38,7 @@ enum class Command : std::int32_t {
   PinProperty = 32864,
   AddNode = 32867,
   SwapPinNameAndNumber = 32870,
+  SafetyCopies = 32871,
 
   New = 57600,
   Open = 57601,

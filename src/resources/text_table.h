@@ -96,6 +96,23 @@ enum class StringId : std::int32_t {
   ProgressName,
   Opening,
   Saving,
+
+  // So that nothing gets lost.
+  ChangedOnDisk = 380,
+  OpenElsewhere,
+  NoSafetyCopy,
+  SafetyCopiesPlace,  ///< "%s" stands for the folder
+  OpenFolder,         ///< a button
+  RecoveryQuestion,   ///< "%s" stands for the library and, on lines of their own, what differs
+  // Lines of that; "%s" stands for the names.
+  RecoveryChanged,
+  RecoveryAdded,
+  RecoveryRemoved,
+  RecoveryArrangement,
+  // Buttons that answer it.
+  RecoveryRestore,
+  RecoveryRemove,
+  RecoveryLater,
 };
 
 enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };

@@ -43,8 +43,9 @@ void LibraryGuard::OpenedWithoutFile(const LibraryView& library) {
   journal_.Begin(library, file_, RecoveryJournal::Origin::Loaded);
 }
 
-void LibraryGuard::Opened(const LibraryView& library, std::string_view content, Losses losses) {
-  TakeFile({library.doc.Path(), IdentityOf(content)});
+void LibraryGuard::Opened(const LibraryView& library, const ContentIdentity& content,
+                          Losses losses) {
+  TakeFile({library.doc.Path(), content});
   hasLosses_ = losses == Losses::Some;
   journal_.Begin(library, file_, RecoveryJournal::Origin::Loaded);
 }
@@ -55,11 +56,12 @@ bool LibraryGuard::HasChangedOnDisk(std::u16string_view path) const {
   return content.Ok() && IdentityOf(content.Value()) != file_.identity;
 }
 
-LibraryGuard::SaveResult LibraryGuard::Save(const LibraryView& library, std::u16string_view path) {
+LibraryGuard::SaveResult LibraryGuard::Save(const LibraryView& library, std::u16string_view path,
+                                            ProgressSink* progress) {
   SaveResult result;
   std::string text;
   StringByteSink sink(text);
-  static_cast<void>(library.doc.Write(sink, library.entries));
+  static_cast<void>(library.doc.Write(sink, library.entries, progress));
 
   const fs::path target = PathFromText(path);
   FileWriter file(target, FileWriter::Durability::OnDisk, FileWriter::Rewriting::WhenNeeded);
@@ -101,10 +103,11 @@ std::vector<FoundRecovery> LibraryGuard::FindRecoveries() const {
   return folder.empty() ? std::vector<FoundRecovery>() : mivo::FindRecoveries(folder);
 }
 
-void LibraryGuard::Restored(const LibraryView& library, const RecoveryStart& file) {
+bool LibraryGuard::Restored(const LibraryView& library, const RecoveryStart& file) {
   TakeFile(file);
   hasLosses_ = false;
   journal_.BeginUnsaved(library, file_);
+  return !journal_.File().empty();
 }
 
 void LibraryGuard::Left() noexcept {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "content_identity.h"
 #include "library_view.h"
 #include "locked_file.h"
 #include "recovered_library.h"
@@ -30,8 +31,8 @@ class LibraryGuard {
   void OpenedWithoutFile(const LibraryView& library);
 
   enum class Losses { None, Some };
-  /// The library, whose path is that of the file, was read from `content`.
-  void Opened(const LibraryView& library, std::string_view content, Losses losses);
+  /// The library, whose path is that of the file, was read from this content.
+  void Opened(const LibraryView& library, const ContentIdentity& content, Losses losses);
 
   /// Whether another running program had the file open already.
   [[nodiscard]] bool IsOpenElsewhere() const noexcept { return openElsewhere_; }
@@ -47,7 +48,8 @@ class LibraryGuard {
   };
   /// Writes the library to `path` and keeps what was there; what can be kept nowhere is not saved
   /// over when that has to be done in place. The caller sets the library's path.
-  [[nodiscard]] SaveResult Save(const LibraryView& library, std::u16string_view path);
+  [[nodiscard]] SaveResult Save(const LibraryView& library, std::u16string_view path,
+                                ProgressSink* progress = nullptr);
 
   /// Where copies of the library's file are, or, as long as there are none, those of all.
   [[nodiscard]] std::filesystem::path CopiesFolder() const;
@@ -56,8 +58,9 @@ class LibraryGuard {
 
   /// What other programs left when they ended.
   [[nodiscard]] std::vector<FoundRecovery> FindRecoveries() const;
-  /// The library is what was recovered; it is in this program's own recovery file from now on.
-  void Restored(const LibraryView& library, const RecoveryStart& file);
+  /// The library is what was recovered. True when it is in this program's own recovery file now, so
+  /// that the one it came from can go.
+  bool Restored(const LibraryView& library, const RecoveryStart& file);
 
   /// See RecoveryJournal.
   void RecordNames(const LibraryView& library) { journal_.RecordNames(library); }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <deque>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
@@ -16,6 +17,7 @@
 #include "comp_edit_view.h"
 #include "lb_comp_name.h"
 #include "main_frame.h"
+#include "state_folder.h"
 #include "temp_folder.h"
 
 namespace mivo {
@@ -28,6 +30,7 @@ class ScriptedPrompts final : public FramePrompts {
   std::deque<QString> savePaths;
   std::deque<SaveAnswer> saveAnswers;
   std::deque<bool> confirmations;
+  std::vector<StringId> confirmed;  ///< what the confirmations were asked for
   std::vector<QString> proposedNames;
   std::vector<StringId> warnings;
 
@@ -39,7 +42,10 @@ class ScriptedPrompts final : public FramePrompts {
   [[nodiscard]] SaveAnswer AskSaveChanges() override {
     return Next(saveAnswers, "save changes", SaveAnswer::Cancel);
   }
-  [[nodiscard]] bool Confirm(StringId) override { return Next(confirmations, "confirm", false); }
+  [[nodiscard]] bool Confirm(StringId question) override {
+    confirmed.push_back(question);
+    return Next(confirmations, "confirm", false);
+  }
   void Warn(StringId message) override { warnings.push_back(message); }
 
   std::deque<std::optional<CompPropertyValues>> components;  ///< answers
@@ -63,6 +69,16 @@ class ScriptedPrompts final : public FramePrompts {
   }
   void ShowAbout() override { ++aboutShown; }
 
+  std::deque<RecoveryAnswer> recoveryAnswers;
+  std::vector<QString> recoveryQuestions;
+  std::vector<QString> shownFolders;
+
+  [[nodiscard]] RecoveryAnswer AskRecovery(const QString& question) override {
+    recoveryQuestions.push_back(question);
+    return Next(recoveryAnswers, "recovery", RecoveryAnswer::Later);
+  }
+  void ShowSafetyCopies(const QString& folder) override { shownFolders.push_back(folder); }
+
  private:
   template <typename Answer>
   static Answer Next(std::deque<Answer>& answers, const char* question, Answer cancelled) {
@@ -82,6 +98,12 @@ class FrameTest : public testing::Test {
   explicit FrameTest(TextTable texts = TextTable())
       : settings_(folder_.Put("MIVO.INI", "\xFF\xFE")), texts_(std::move(texts)) {
     Restart();
+  }
+
+  /// What a test leaves to be recovered is no other test's.
+  ~FrameTest() override {
+    frame_.reset();
+    std::filesystem::remove_all(FindStateFolder());
   }
 
   /// A new frame over the same settings.

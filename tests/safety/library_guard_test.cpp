@@ -25,7 +25,7 @@ const std::string kOther = LibraryText(ComponentText("other"));
 class LibraryGuardTest : public testing::Test {
  protected:
   void Open(LibraryGuard::Losses losses = LibraryGuard::Losses::None) {
-    guard_.Opened(open_.View(), kParts, losses);
+    guard_.Opened(open_.View(), IdentityOf(kParts), losses);
   }
   [[nodiscard]] bool HasChanged() const { return guard_.HasChangedOnDisk(Path()); }
   [[nodiscard]] LibraryGuard::SaveResult Save() { return guard_.Save(open_.View(), Path()); }
@@ -177,7 +177,7 @@ TEST_F(LibraryGuardTest, NothingIsWrittenIntoTheFolderOfTheLibrary) {
   fs::create_directory(folder_ / "libs");
   const fs::path file = folder_.Put("libs/parts.ZLB", kParts);
   OpenDoc open(kParts, file);
-  guard_.Opened(open.View(), kParts, LibraryGuard::Losses::Some);
+  guard_.Opened(open.View(), IdentityOf(kParts), LibraryGuard::Losses::Some);
   open.Add(u"new");
   guard_.RecordNames(open.View());
   EXPECT_TRUE(guard_.Save(open.View(), TextFromPath(file)).saved);
@@ -190,7 +190,7 @@ TEST_F(LibraryGuardTest, TheSecondProgramIsTold) {
   Open();
   EXPECT_FALSE(guard_.IsOpenElsewhere());
   LibraryGuard second(folder_ / "state");
-  second.Opened(open_.View(), kParts, LibraryGuard::Losses::None);
+  second.Opened(open_.View(), IdentityOf(kParts), LibraryGuard::Losses::None);
   EXPECT_TRUE(second.IsOpenElsewhere());
   second.OpenedWithoutFile(open_.View());
   EXPECT_FALSE(second.IsOpenElsewhere());
@@ -200,7 +200,7 @@ TEST_F(LibraryGuardTest, TheFileIsFreeOnceTheFirstProgramLeavesIt) {
   Open();
   guard_.Left();
   LibraryGuard second(folder_ / "state");
-  second.Opened(open_.View(), kParts, LibraryGuard::Losses::None);
+  second.Opened(open_.View(), IdentityOf(kParts), LibraryGuard::Losses::None);
   EXPECT_FALSE(second.IsOpenElsewhere());
 }
 
@@ -220,10 +220,10 @@ TEST_F(LibraryGuardTest, TheFileThatASaveMovesToCountsAsOpen) {
   const fs::path other = folder_ / "other.ZLB";
   EXPECT_TRUE(guard_.Save(open_.View(), TextFromPath(other)).saved);
   LibraryGuard second(folder_ / "state");
-  second.Opened(open_.View(), kParts, LibraryGuard::Losses::None);
+  second.Opened(open_.View(), IdentityOf(kParts), LibraryGuard::Losses::None);
   EXPECT_FALSE(second.IsOpenElsewhere()) << "the file it was";
   OpenDoc moved(BytesOf(other), other);
-  second.Opened(moved.View(), BytesOf(other), LibraryGuard::Losses::None);
+  second.Opened(moved.View(), IdentityOf(BytesOf(other)), LibraryGuard::Losses::None);
   EXPECT_TRUE(second.IsOpenElsewhere()) << "the file it is";
 }
 
@@ -239,8 +239,7 @@ TEST_F(LibraryGuardTest, ARestoredLibraryIsInARecoveryFileOfItsOwn) {
   }
   ASSERT_EQ(RunInChild([&]() -> std::string {
               LibraryGuard crashing(folder_ / "state");
-              crashing.Restored(open_.View(), open_.start);
-              std::raise(SIGKILL);
+              if (crashing.Restored(open_.View(), open_.start)) std::raise(SIGKILL);
               return "alive";
             }),
             "signal 9");
@@ -250,7 +249,7 @@ TEST_F(LibraryGuardTest, ARestoredLibraryIsInARecoveryFileOfItsOwn) {
 }
 
 TEST_F(LibraryGuardTest, ARestoredLibraryKnowsWhatItsFileHeld) {
-  guard_.Restored(open_.View(), {Path(), IdentityOf(kParts)});
+  EXPECT_TRUE(guard_.Restored(open_.View(), {Path(), IdentityOf(kParts)}));
   EXPECT_FALSE(HasChanged());
   folder_.Put("parts.ZLB", kOther);
   EXPECT_TRUE(HasChanged());
@@ -287,7 +286,7 @@ TEST(LibraryGuard, WithoutAStateFolderEverythingElseWorks) {
   const fs::path file = folder.Put("parts.ZLB", kParts);
   OpenDoc open(kParts, file);
   LibraryGuard guard({});
-  guard.Opened(open.View(), kParts, LibraryGuard::Losses::None);
+  guard.Opened(open.View(), IdentityOf(kParts), LibraryGuard::Losses::None);
   open.Add(u"new");
   guard.RecordNames(open.View());
   EXPECT_FALSE(guard.IsOpenElsewhere());

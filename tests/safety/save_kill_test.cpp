@@ -37,7 +37,7 @@ std::string ManyComponents(const std::string& note) {
   for (std::uint64_t round = 0;; ++round) {
     OpenDoc open(BytesOf(file), file);
     LibraryGuard guard(stateFolder);
-    guard.Opened(open.View(), BytesOf(file), LibraryGuard::Losses::None);
+    guard.Opened(open.View(), IdentityOf(BytesOf(file)), LibraryGuard::Losses::None);
     for (NameEntry* const entry : open.entries) {
       entry->Component()->note = round % 2 == 0 ? u"even" : u"odd";
     }
@@ -92,7 +92,7 @@ TEST(SaveKill, TheFileIsWholeWheneverTheProcessIsKilled) {
   // The next save leaves nothing behind, and the copies are whole too.
   OpenDoc open(BytesOf(file), file);
   LibraryGuard guard(folder / "state");
-  guard.Opened(open.View(), BytesOf(file), LibraryGuard::Losses::None);
+  guard.Opened(open.View(), IdentityOf(BytesOf(file)), LibraryGuard::Losses::None);
   EXPECT_FALSE(guard.IsOpenElsewhere());
   EXPECT_TRUE(guard.Save(open.View(), TextFromPath(file)).saved);
   EXPECT_TRUE(LeftIn(folder / "libs").empty());
