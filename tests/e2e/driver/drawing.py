@@ -90,8 +90,3 @@ class Drawing:
     def picture(self):
         """The drawing without the pointer's marks."""
         return self._mivo.desktop.picture(self.box)
-
-    def color(self, x, y):
-        """The colour of a point on the screen."""
-        column, row = self.place(x, y)
-        return self._mivo.desktop.picture((column, row, 1, 1)).color(0, 0)

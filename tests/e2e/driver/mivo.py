@@ -4,10 +4,16 @@ import re
 from functools import cached_property
 
 from .control import Control
+from .dialog import Dialog
 from .process import start_process
 from .waiting import Gone, wait_for, wait_until
 
 DIALOG_ROLES = ("dialog", "alert message", "frame", "window")
+
+
+def items_of(menu):
+    """The items of a menu of the menu bar, open or not."""
+    return [item for popup in menu.children for item in popup.children]
 
 
 class Mivo:
@@ -92,11 +98,10 @@ class Mivo:
 
     def file_dialog(self):
         """Waits for the question for a file's name."""
-        return self._opened(lambda window: window.all(role="file chooser") or self._asks_for_file(window), "a file dialog")
-
-    @staticmethod
-    def _asks_for_file(window):
-        return window.role == "dialog" and len(window.all(role="combo box")) == 2
+        # It alone has a list of folders and one of the kinds of files.
+        return self._opened(
+            lambda window: window.role == "dialog" and len(window.all(role="combo box")) == 2, "a file dialog"
+        )
 
     def _opened(self, condition, what):
         control = wait_until(lambda: self._window(condition), what)
@@ -122,12 +127,6 @@ class Mivo:
             self.desktop.give_keyboard_again()
             wait_until(condition, f"{what} to be active")
 
-    @property
-    def other_windows(self):
-        """The titles of what is open beside the main window."""
-        return [window.name for window in self.application.children
-                if window.role in DIALOG_ROLES and window.has("showing") and window != self.frame]  # fmt: skip
-
     # --- Commands ----------------------------------------------------------------------------------
 
     def press(self, *chords):
@@ -144,9 +143,9 @@ class Mivo:
         self.input.click(entry.box.middle)
 
     def menu_by_keys(self, title, item):
-        """Chooses a command with the keyboard: its letter, or the arrows when it has none of its own."""
+        """Chooses a command with the keyboard: the menu by its letter, the command with the arrows."""
         menu, entry = self._menu(title), self.menu_item(title, item)
-        items = [each for each in entry_parent_items(menu) if each.name]
+        items = [each for each in items_of(menu) if each.name]
         self.press(f"Alt+{self.texts.mnemonics(title)[0]}")
         wait_until(lambda: entry.has("showing"), f"the menu {title!r} to open")
         wait_until(lambda: any(each.has("focused") for each in items), "an item of the menu to be chosen")
@@ -172,7 +171,7 @@ class Mivo:
 
     def menu_item(self, title, item):
         names = self.texts.shown(item)
-        items = entry_parent_items(self._menu(title))
+        items = items_of(self._menu(title))
         return next(entry for entry in items if entry.name.split("\t")[0] in names)
 
     # --- What the window shows ---------------------------------------------------------------------
@@ -246,130 +245,3 @@ class Mivo:
         if self.process.poll() is None:
             self.process.kill()
             self.process.wait()
-
-
-def entry_parent_items(menu):
-    """The items of a menu of the menu bar, open or not."""
-    return [item for popup in menu.children for item in popup.children]
-
-
-class Dialog:
-    """A window that asks something."""
-
-    def __init__(self, mivo, control):
-        self.mivo = mivo
-        self.control = control
-
-    def field(self, english, role=None):
-        """Waits for the control that bears the text."""
-        names = self.mivo.texts.shown(english)
-        roles = (role,) if role else ("text", "check box", "radio button", "push button", "combo box", "spin button")
-
-        def first():
-            return next(
-                (each for each in self.control.walk() if each.role in roles and each.label in names), None
-            )
-
-        return wait_until(first, f"the field {english!r}")
-
-    def text(self, english):
-        return self.field(english, "text").text
-
-    def fill(self, english, text):
-        """Replaces the text of a field, with mouse and keyboard."""
-        field = self.field(english, "text")
-        self.mivo.input.click(field.box.middle)
-        wait_until(lambda: field.has("focused"), f"the field {english!r} to have the focus")
-        self.mivo.press("Ctrl+a")
-        if text:
-            self.mivo.type(text)
-        else:
-            self.mivo.press("Del")
-        wait_for(lambda: field.text, text, f"the text of {english!r}")
-
-    def check(self, english):
-        """Clicks a check box or radio button."""
-        field = self.field(english)
-        before = field.has("checked")
-        x, y, _, height = field.box
-        self.mivo.input.click((x + height // 2, y + height // 2))
-        wait_until(lambda: field.has("checked") != before, f"{english!r} to change")
-
-    def choose(self, english, item):
-        """Chooses an item of a list that drops down, with the keys that need no list to drop."""
-        field = self.tab_to(english)
-        items = field.find(role="list", showing=False).children
-        index = [each.name for each in items].index(item)
-        self.mivo.press("Home", *["Down"] * index)
-        wait_for(lambda: field.name, item, f"the choice of {english!r}")
-
-    def is_checked(self, english):
-        return self.field(english).has("checked")
-
-    def tab_to(self, english):
-        """Goes to a control with Tab."""
-        field = self.field(english)
-        for _ in range(50):
-            if field.has("focused"):
-                return field
-            before = self._focused()
-            self.mivo.press("Tab")
-            wait_until(lambda before=before: self._focused() != before, "Tab to go on")
-        raise AssertionError(f"Tab does not lead to {english!r}")
-
-    def _focused(self):
-        return next((each for each in self.control.walk() if each.has("focused")), None)
-
-    def click(self, english):
-        self.mivo.input.click(self.field(english, "push button").box.middle)
-
-    def close(self, english):
-        """Clicks the button that closes the dialog."""
-        self.click(english)
-        self.wait_closed()
-
-    def press(self, *chords):
-        """Presses keys that close the dialog."""
-        self.mivo.press(*chords)
-        self.wait_closed()
-
-    def wait_closed(self):
-        wait_until(self._is_closed, "the dialog to close")
-        self.mivo.wait_active_or_ended()  # keys sent earlier would be lost
-
-    def _is_closed(self):
-        try:
-            return not self.control.has("showing")
-        except Gone:
-            return True
-
-    def enter_file(self, path):
-        """Answers the question for a file's name."""
-        self._type_file(path, self._is_closed)
-        self.wait_closed()
-
-    def enter_existing_file(self, path):
-        """The same for a file that is there, which the user agrees to replace."""
-        self._type_file(path, lambda: not self.control.has("active"))
-        self.mivo.toolkit_question().press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
-        self.wait_closed()
-
-    def _type_file(self, path, is_taken):
-        field = wait_until(self._file_field, "the field of the file's name")
-        wait_until(lambda: field.has("focused"), "the field of the file's name to have the focus")
-        self.mivo.press("Ctrl+a")
-        self.mivo.type(str(path))
-        wait_for(lambda: field.text, str(path), "the file's name")
-        self.mivo.press("Enter")
-        try:
-            wait_until(is_taken, "the name to be taken", limit=5)
-        except AssertionError:
-            self.mivo.press("Enter")  # the list of names that would complete it took the first one
-
-    def proposed_file(self):
-        return wait_until(self._file_field, "the field of the file's name").text
-
-    def _file_field(self):
-        fields = [each for each in self.control.walk(skip=("list", "table", "tree table", "combo box", "tree"))
-                  if each.role == "text" and each.has("showing")]  # fmt: skip
-        return fields[0] if fields else None

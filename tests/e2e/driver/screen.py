@@ -5,7 +5,7 @@ import zlib
 
 
 class Picture:
-    """A rectangle of the screen; colours are (red, green, blue)."""
+    """A rectangle of the screen."""
 
     def __init__(self, width, height, data):
         self.width = width
@@ -16,17 +16,6 @@ class Picture:
     def of(root, x, y, width, height):
         image = root.get_image(x, y, width, height, 2, 0xFFFFFFFF)  # 2: whole pixels
         return Picture(width, height, image.data)
-
-    def color(self, x, y):
-        blue, green, red = self._data[4 * (y * self.width + x) :][:3]
-        return red, green, blue
-
-    def count(self, color):
-        """How many pixels have the colour."""
-        red, green, blue = color
-        wanted = bytes((blue, green, red))
-        data = self._data
-        return sum(data[i : i + 3] == wanted for i in range(0, len(data), 4))
 
     def __eq__(self, other):
         return (self.width, self.height, self._data) == (other.width, other.height, other._data)
