@@ -76,7 +76,8 @@ void CMainFrame::RefillNames() {
   for (const auto& entry : doc_.Names().Entries()) entries.push_back(entry.get());
   Names().Names().SetEntries(std::move(entries));
   Names().SelectRow(0);
-  ShowSelectedComponent();
+  // An empty list has nothing to select, and so nothing to tell.
+  if (Names().SelectedRow() < 0) ShowSelectedComponent();
 }
 
 bool CMainFrame::Save() {

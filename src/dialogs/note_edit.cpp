@@ -18,6 +18,7 @@ NoteEdit::NoteEdit(int visibleCharacters, int visibleLines, QWidget* parent)
 }
 
 void NoteEdit::SetContent(std::u16string_view content) {
+  if (content == content_ && !IsEdited()) return;
   content_ = content;
   clear();  // the earlier text is not laid out in the way of the new one
   PrepareFor(static_cast<qsizetype>(content.size()));
