@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <set>
@@ -117,6 +118,68 @@ TEST(FormDialog, TheTextsAreTheTables) {
       EXPECT_TRUE(label->text().startsWith(QLatin1String("&T"))) << label->text().toStdString();
     }
   }
+}
+
+/// What a dialog says, and of which control, in alphabetical order: labels with the control that
+/// they belong to, buttons with themselves, group boxes with nothing.
+std::vector<std::string> Wording(const QDialog& dialog) {
+  std::vector<std::string> wording;
+  const auto add = [&](const QString& text, const QWidget* control) {
+    if (text.isEmpty()) return;
+    wording.push_back(text.toStdString() + " > " +
+                      (control != nullptr ? control->objectName().toStdString() : ""));
+  };
+  for (const QLabel* const label : dialog.findChildren<QLabel*>()) {
+    add(label->text(), label->buddy());
+  }
+  for (const QAbstractButton* const button : dialog.findChildren<QAbstractButton*>()) {
+    add(button->text(), button);
+  }
+  for (const QGroupBox* const group : dialog.findChildren<QGroupBox*>()) {
+    add(group->title(), nullptr);
+  }
+  std::sort(wording.begin(), wording.end());
+  return wording;
+}
+
+TEST(FormDialog, EveryWordStandsAtItsControl) {
+  const std::map<std::string, std::vector<std::string>> expected = {
+      {"About Mivo", {"Mivo Version 0.84.00 > ", "OK > okButton"}},
+      {"Add alias",
+       {"&Alias > aliasEdit", "Alias for > nameEdit", "Cancel > cancelButton", "OK > okButton"}},
+      {"Property - component",
+       {"&Blocks > blocksEdit", "&Fixed block Num > fixedBlockCheck", "&Name > nameEdit",
+        "&Shared block > sharedBlockCheck", "&X > widthEdit", "&Y > heightEdit", "Block > ",
+        "Cancel > cancelButton", "Manufacturer > manufacturerEdit",
+        "MfrPartNumber > partNumberEdit", "No &Bit-pattern > noBitPatternCheck", "No&te > noteEdit",
+        "Numbe&r > prefixEdit", "OK > okButton", "Package > packageEdit", "Pattern > ", "Size > ",
+        "Use &Pattern > usePatternCheck"}},
+      {"Property - Line",
+       {"&Curve line > curveCheck", "&Dot > dotCheck", "&Width > widthList",
+        "Cancel > cancelButton", "OK > okButton"}},
+      {"Show/Hide name individually",
+       {"Cancel > cancelButton", "Hide All > hideAllButton", "OK > okButton",
+        "Show All > showAllButton"}},
+      {"Pin - property",
+       {"&Block > blockSpin", "&Hide number > hideNumberCheck", "&Name > nameEdit",
+        "Cancel > cancelButton", "Nu&mber > ", "OK > okButton", "Show/Hide > showHideButton",
+        "Style > "}},
+      {"Property - library", {"Cancel > cancelButton", "OK > okButton"}},
+      {"Property - pattern",
+       {"&Dot > dotCheck", "&Fill > fillCheck", "&Width > widthList", "Cancel > cancelButton",
+        "OK > okButton"}},
+      {"Property -text",
+       {"&Font... > fontButton", "&Text > textEdit", "Cancel > cancelButton",
+        "Center > horizontalCenterRadio", "Center > verticalCenterRadio", "Horizontal anchor > ",
+        "Left > leftRadio", "Lower > lowerRadio", "OK > okButton", "Right > rightRadio",
+        "Upper > upperRadio", "Use common font > commonFontCheck", "Vertical anchor > "}},
+  };
+  const TextTable texts;
+  std::map<std::string, std::vector<std::string>> said;
+  for (const auto& dialog : AllDialogs(texts)) {
+    said[dialog->windowTitle().toStdString()] = Wording(*dialog);
+  }
+  EXPECT_EQ(said, expected);
 }
 
 TEST(FormDialog, EveryTitleIsSeenWhole) {
