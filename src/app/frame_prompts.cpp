@@ -125,6 +125,7 @@ void DialogPrompts::ShowSafetyCopies(const QString& folder) {
   box.button(QMessageBox::Ok)->setText(ToQString(texts_.Text(dialog_text::kOk)));
   const QAbstractButton* const open =
       box.addButton(ToQString(texts_.Text(StringId::OpenFolder)), QMessageBox::ActionRole);
+  box.setEscapeButton(QMessageBox::Ok);
   box.exec();
   if (box.clickedButton() == open) QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
 }

@@ -102,6 +102,8 @@ def open_other_dialogs(mivo):
     mivo.message("It CREATES BIT-PATTERN and OVERWRITES EXISTING").press("Esc")
     mivo.menu_by_keys("View", "Pin property")
     mivo.dialog("Pin property").press("Esc")
+    mivo.menu_by_keys("Help", "Safety copies...")
+    mivo.any_message().press("Esc")
     mivo.menu_by_keys("Help", "About Mivo...")
     about = mivo.dialog("About Mivo")
     assert about.control.find(name=f"{mivo.texts.first('Mivo Version ')}0.84.00")

@@ -28,6 +28,8 @@ def has_no_english(mivo, dialog):
     own = mivo.texts.everything()
     named = [each.name for each in dialog.control.walk() if each.role not in CONTENT_ROLES]
     own.add("Mivo")
+    filled_in = [re.escape(text).replace("%s", ".*").replace("%d", r"\d+") for text in own if "%" in text]
+    own.update(name for name in named for text in filled_in if re.fullmatch(text, name, re.DOTALL))
     if dialog.control.name in own:
         strange = [name for name in named if name not in own and not VALUE.fullmatch(name.removeprefix(ABOUT))]
     else:

@@ -101,7 +101,7 @@ class Dialog:
     def enter_existing_file(self, path):
         """The same for a file that is there, which the user agrees to replace."""
         self._type_file(path, lambda: not self.control.has("active"))
-        self.mivo.toolkit_question().press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
+        self.mivo.any_message().press(f"Alt+{self.mivo.texts.mnemonics('Yes')[0]}")
         self.wait_closed()
 
     def _type_file(self, path, is_taken):

@@ -32,7 +32,7 @@ class Mivo:
             )
         self.application = wait_until(self._application, "the program to show its controls")
         self.frame = wait_until(lambda: self._window(self._is_frame), "the window of the program")
-        self._wait_active(lambda: self.frame.has("active"), "the window")
+        self.wait_active_or_ended()
 
     # --- Windows -----------------------------------------------------------------------------------
 
@@ -92,9 +92,9 @@ class Mivo:
             lambda window: window.role == "dialog" and window.name not in own, "a dialog of the toolkit"
         )
 
-    def toolkit_question(self):
-        """Waits for a message box that the toolkit brings along."""
-        return self._opened(lambda window: window.role == "alert message", "a question of the toolkit")
+    def any_message(self):
+        """Waits for a message box, whatever it says."""
+        return self._opened(lambda window: window.role == "alert message", "a message")
 
     def file_dialog(self):
         """Waits for the question for a file's name."""
@@ -117,7 +117,7 @@ class Mivo:
         def is_active_or_ended():
             return self.process.poll() is not None or self._window(lambda window: window.has("active"))
 
-        self._wait_active(is_active_or_ended, "another window")
+        self._wait_active(is_active_or_ended, "a window")
 
     def _wait_active(self, condition, what):
         """The toolkit sometimes overlooks that it was given the keyboard; going elsewhere and coming back helps."""
