@@ -1,5 +1,7 @@
 #include "clipboard_text.h"
 
+#include <new>
+
 #include "record_reader.h"
 #include "record_writer.h"
 
@@ -69,7 +71,7 @@ bool CanPaste(std::u16string_view text) noexcept {
   return text.starts_with(kPinHeader) || text.starts_with(kPatternHeader);
 }
 
-ClipboardContent ReadClipboardText(std::u16string_view text, std::int32_t blockCount) {
+ClipboardContent ReadClipboardText(std::u16string_view text, std::int32_t blockCount) try {
   // The reader would take blanks in front of the header, the header test does not.
   if (!CanPaste(text)) return {};
   SRecordReader reader;
@@ -78,6 +80,8 @@ ClipboardContent ReadClipboardText(std::u16string_view text, std::int32_t blockC
   if (reader.ReadField(header) != FieldStatus::Ok) return {};
   if (header == kPinHeader) return ReadPins(reader, blockCount);
   if (header == kPatternHeader) return ReadObjects(reader);
+  return {};
+} catch (const std::bad_alloc&) {
   return {};
 }
 

@@ -1,6 +1,7 @@
 #include "mivo_doc.h"
 
 #include <algorithm>
+#include <new>
 
 #include "library_reader.h"
 #include "library_writer.h"
@@ -70,7 +71,7 @@ void SMivoDoc::Clear() {
 }
 
 bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink,
-                    ProgressSink* progress) {
+                    ProgressSink* progress) try {
   if (path_) return false;
   const std::optional<FileHead> head = PeekHead(bytes, sink);
   if (!head) return false;
@@ -96,6 +97,10 @@ bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSin
   }
   path_ = path;
   return true;
+} catch (const std::bad_alloc&) {
+  // Half a library in the last of the memory is of no use to anybody.
+  Clear();
+  return false;
 }
 
 bool SMivoDoc::ReadBody(SRecordReader& reader, BodyExtent extent) {

@@ -36,8 +36,8 @@ class SMivoDoc {
 
   /// Reads the content of a library or schematic file and, when that succeeds, takes `path` as the
   /// library's path. False when there is a path already or the content is malformed; what was read
-  /// before the fault stays in the library. `progress` hears how much was read, and must leave the
-  /// library alone.
+  /// before the fault stays in the library. False as well, with the library empty, when the memory
+  /// does not suffice. `progress` hears how much was read, and must leave the library alone.
   [[nodiscard]] bool Load(std::string_view bytes, std::u16string_view path,
                           FindingSink* sink = nullptr, ProgressSink* progress = nullptr);
 

@@ -1,5 +1,7 @@
 #include "schematic_data.h"
 
+#include <new>
+
 #include "keyed_field.h"
 
 namespace mivo {
@@ -46,7 +48,7 @@ bool CanPasteComponent(std::u16string_view text) noexcept {
   return blockBytes > kSmallestBlock && text.starts_with(SMivoDoc::kSchematicTag);
 }
 
-NameEntry* PasteComponentText(SMivoDoc& doc, std::u16string_view text) {
+NameEntry* PasteComponentText(SMivoDoc& doc, std::u16string_view text) try {
   SRecordReader reader;
   reader.AttachString(text);
   std::u16string_view field;
@@ -58,6 +60,8 @@ NameEntry* PasteComponentText(SMivoDoc& doc, std::u16string_view text) {
   const bool read = doc.ReadBody(reader, SMivoDoc::BodyExtent::FirstComponent);
   const auto& entries = doc.Names().Entries();
   return read && entries.size() > before ? entries.back().get() : nullptr;
+} catch (const std::bad_alloc&) {
+  return nullptr;
 }
 
 }  // namespace mivo

@@ -48,7 +48,7 @@ class StartedProgram {
     close(ends[1]);
   }
   ~StartedProgram() {
-    Kill();
+    End(SIGKILL);
     close(out_);
   }
   StartedProgram(const StartedProgram&) = delete;
@@ -62,8 +62,8 @@ class StartedProgram {
     return line;
   }
 
-  void Kill() {
-    if (id_ > 0) kill(id_, SIGKILL);
+  void End(int signal) {
+    if (id_ > 0) kill(id_, signal);
     static_cast<void>(WaitForEnd());
   }
 
@@ -93,7 +93,7 @@ TEST_F(LostDisplayTest, UnsavedWorkIsOfferedAtTheNextStart) {
   ASSERT_EQ(mivo.ReadLine(), "edited");
   EXPECT_FALSE(Frame().OfferRecovery()) << "it is still running";
 
-  display.Kill();
+  display.End(SIGTERM);  // it takes its sockets away then, and no leave of its windows
   EXPECT_GT(mivo.WaitForEnd(), 0) << "it ends by itself, and tells that something was wrong";
   EXPECT_EQ(Content("parts.ZLB"), kTwoParts);
   Prompts().recoveryAnswers = {RecoveryAnswer::Restore};
