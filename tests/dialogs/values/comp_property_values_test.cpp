@@ -44,6 +44,7 @@ TEST(CompPropertyValues, NamesAreVisibleAsciiWithoutBraces) {
       {u"R ", false},
       {u" R", false},
       {u"R{1}", false},
+      {u"R{", false},
       {u"R}", false},
       {u"R\x7F", false},
       {u"R\t", false},
