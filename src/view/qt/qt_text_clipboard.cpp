@@ -13,6 +13,13 @@ bool IsActive() {
   return QGuiApplication::applicationState() == Qt::ApplicationActive;
 }
 
+/// Whether what the clipboard holds comes from this program, which needs no time to give it.
+bool IsOwn() {
+  // Without a screen the clipboard is this program's alone, but never says so.
+  static const bool isPrivate = QGuiApplication::platformName() == QLatin1String("offscreen");
+  return isPrivate || QGuiApplication::clipboard()->ownsClipboard();
+}
+
 std::optional<std::u16string> FetchRecords() {
   const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
   if (data == nullptr || !data->hasText()) return std::nullopt;
@@ -23,7 +30,7 @@ std::optional<std::u16string> FetchRecords() {
 
 }  // namespace
 
-QtTextClipboard::QtTextClipboard() : isKnown_(!IsActive()) {
+QtTextClipboard::QtTextClipboard() : isKnown_(!IsActive() && !IsOwn()) {
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
     isKnown_ = false;
     TellOfChange();
@@ -36,7 +43,7 @@ QtTextClipboard::QtTextClipboard() : isKnown_(!IsActive()) {
 }
 
 void QtTextClipboard::TellOfChange() {
-  tellWhenActive_ = !IsActive() && !QGuiApplication::clipboard()->ownsClipboard();
+  tellWhenActive_ = !IsActive() && !IsOwn();
   if (!tellWhenActive_) emit Changed();
 }
 
