@@ -42,7 +42,8 @@ constexpr std::array<Item, 7> kTools = {
     Command::PolygonTool, Command::ArcTool, Command::TextTool};
 constexpr std::array<Item, 4> kToolMenuEnd = {kSeparator, Command::EditNodeMode, kSeparator,
                                               Command::CreateBitPattern};
-constexpr std::array<Item, 3> kHelpMenu = {Command::SafetyCopies, kSeparator, Command::About};
+constexpr std::array<Item, 4> kHelpMenu = {Command::Manual, Command::SafetyCopies, kSeparator,
+                                           Command::About};
 constexpr std::array<Item, 18> kToolBar = {
     Command::New,    Command::Open,         Command::Save,  kSeparator,      Command::Undo,
     Command::Cut,    Command::Copy,         Command::Paste, Command::Delete, kSeparator,
@@ -88,6 +89,8 @@ QList<QKeySequence> KeysOf(Command command) {
       return {Qt::Key_F11};
     case Command::NextPinNumber:
       return {Qt::Key_F12};
+    case Command::Manual:
+      return {Qt::Key_F1};
     default:
       return {};
   }

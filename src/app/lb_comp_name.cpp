@@ -5,6 +5,7 @@
 #include <QStyledItemDelegate>
 #include <utility>
 
+#include "name_list_accessible.h"
 #include "qt_text.h"
 
 namespace mivo {
@@ -111,6 +112,7 @@ QVariant NameListModel::data(const QModelIndex& index, int role) const {
 }
 
 SLBCompName::SLBCompName(QWidget* parent) : QListView(parent) {
+  NameListAccessible::Install();
   setObjectName(QStringLiteral("nameList"));
   setModel(&model_);
   setItemDelegate(new NameDelegate(*this));

@@ -13,6 +13,7 @@
 #include <QSessionManager>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 #include <QUrl>
 #include <algorithm>
@@ -24,6 +25,7 @@
 #include "key_lock_panes.h"
 #include "key_locks.h"
 #include "lb_comp_name.h"
+#include "manual_window.h"
 #include "name_pane.h"
 #include "pin_props.h"
 #include "program_version.h"
@@ -86,13 +88,22 @@ QAction* CMainFrame::Action(Command command) const {
 
 void CMainFrame::CreateParts() {
   setCentralWidget(view_);
+  view_->SetTexts(texts_);
   view_->setAccessibleName(ToQString(texts_.Text(StringId::ViewName)));
 
   actions_->FillMenuBar(*menuBar());
+  menuBar()->setAccessibleName(ToQString(texts_.Text(StringId::MenuBarName)));
   auto* const toolBar = addToolBar(ToQString(texts_.Text(StringId::ToolBarName)));
   toolBar->setObjectName(QStringLiteral("toolBar"));
   toolBar->setMovable(false);
+  // Large letters in the menus ask for large pictures below them.
+  const int iconSide = std::max(style()->pixelMetric(QStyle::PM_ToolBarIconSize),
+                                QFontMetrics(menuBar()->font()).height() * 4 / 3);
+  toolBar->setIconSize({iconSide, iconSide});
   actions_->FillToolBar(*toolBar);
+  if (auto* const more = toolBar->findChild<QWidget*>(QStringLiteral("qt_toolbar_ext_button"))) {
+    more->setAccessibleName(ToQString(texts_.Text(StringId::MoreToolsName)));
+  }
 
   statusBar()->addWidget(status_, 1);
   for (QLabel* const pane : (new KeyLockPanes(texts_, &ReadKeyLocks, this))->Panes()) {
@@ -255,6 +266,9 @@ void CMainFrame::Execute(Command command) {
     case Command::About:
       prompts_->ShowAbout();
       break;
+    case Command::Manual:
+      ShowManual();
+      break;
     case Command::CreateBitPattern:
       if (prompts_->Confirm(StringId::OverwriteBitPattern)) view_->Editor().Execute(command);
       break;
@@ -285,6 +299,7 @@ void CMainFrame::UpdateActions() {
       case Command::LibraryProperty:
       case Command::SafetyCopies:
       case Command::About:
+      case Command::Manual:
         break;
       case Command::SaveAs:
         enabled = !temporaryFileMode_;
@@ -325,6 +340,16 @@ void CMainFrame::UpdateStatus() {
   status_->SetZoom(hasComponent ? std::optional(editor.Coordinates().Scale().factor)
                                 : std::nullopt);
   status_->SetNames(Names().SelectedRow(), Names().Names().rowCount());
+}
+
+void CMainFrame::ShowManual() {
+  auto* manual = findChild<ManualWindow*>();
+  if (manual == nullptr) {
+    manual = new ManualWindow(texts_, FindManual(QCoreApplication::applicationDirPath()), this);
+  }
+  manual->show();
+  manual->raise();
+  manual->activateWindow();
 }
 
 void CMainFrame::MoveFocus(int direction) {

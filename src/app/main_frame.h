@@ -82,6 +82,7 @@ class CMainFrame final : public QMainWindow {
   /// Along view, list, note box and the pin grid where it is shown; `direction` is 1 or -1.
   void MoveFocus(int direction);
   void TogglePinGrid();
+  void ShowManual();
   /// Keeps what was typed into a cell of the pin grid.
   void EndGridEdit();
 

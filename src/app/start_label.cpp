@@ -20,7 +20,9 @@ StartLabel::StartLabel(const TextTable& texts, QWidget& area) : QWidget(&area) {
   setObjectName(QStringLiteral("startLabel"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   QPalette colors = palette();
+  // Labels on a text area are drawn in the colour of texts.
   colors.setColor(QPalette::WindowText, kTextColor);
+  colors.setColor(QPalette::Text, kTextColor);
   setPalette(colors);
 
   auto* const layout = new QVBoxLayout(this);

@@ -69,7 +69,8 @@ StatusPane::StatusPane(const TextTable& texts, QWidget* parent) : QWidget(parent
 
 QLabel* StatusPane::AddField(const char* objectName, const QString& name) {
   auto* const line = new QFrame(this);
-  line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Sunken));
+  line->setFrameStyle(static_cast<int>(QFrame::VLine) | static_cast<int>(QFrame::Plain));
+  line->setForegroundRole(QPalette::Mid);
   layout()->addWidget(line);
   auto* const field = new QLabel(this);
   field->setObjectName(QLatin1String(objectName));

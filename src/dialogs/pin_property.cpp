@@ -18,6 +18,7 @@
 #include "dialog_texts.h"
 #include "pin_name_show_hide.h"
 #include "pin_style_picture.h"
+#include "pin_style_text.h"
 #include "qt_text.h"
 
 namespace mivo {

@@ -4,8 +4,6 @@
 #include <optional>
 
 #include "colors.h"
-#include "comp_pin.h"
-#include "dialog_texts.h"
 #include "pin_drawing.h"
 #include "qt_surface.h"
 #include "raster_image.h"
@@ -43,24 +41,6 @@ QPixmap PinStylePicture(std::int32_t style, std::u16string_view name, const SRec
   QPixmap picture = QPixmap::fromImage(WrapImage(*image).copy());
   picture.setDevicePixelRatio(devicePixelRatio);
   return picture;
-}
-
-TextId PinStyleText(std::int32_t style) noexcept {
-  namespace text = dialog_text::pin_property;
-  switch (style) {
-    case SCompPin::kClock:
-      return text::kClock;
-    case SCompPin::kNegation:
-      return text::kNegation;
-    case SCompPin::kNegation | SCompPin::kClock:
-      return text::kNegationClock;
-    case SCompPin::kShapeS:
-      return text::kShapeS;
-    case SCompPin::kShapeZ:
-      return text::kShapeZ;
-    default:
-      return text::kPlain;
-  }
 }
 
 }  // namespace mivo

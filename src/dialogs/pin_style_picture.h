@@ -7,7 +7,6 @@
 
 #include "common_font.h"
 #include "geometry.h"
-#include "text_table.h"
 
 namespace mivo {
 
@@ -17,10 +16,6 @@ namespace mivo {
 [[nodiscard]] QPixmap PinStylePicture(std::int32_t style, std::u16string_view name,
                                       const SRect& area, const SCommonFont& font,
                                       double pixelsPerUnit, double devicePixelRatio);
-
-/// What is said of the picture of a style to those who cannot see it; of a style that cannot be
-/// chosen, what is said of the plain one.
-[[nodiscard]] TextId PinStyleText(std::int32_t style) noexcept;
 
 }  // namespace mivo
 

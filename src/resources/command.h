@@ -51,6 +51,7 @@ enum class Command : std::int32_t {
   Undo = 57643,
   About = 57664,
   Exit = 57665,
+  Manual = 57666,
 };
 
 }  // namespace mivo

@@ -105,6 +105,13 @@ constexpr auto kMessages = std::to_array<Entry>({
     Message(StringId::RecoveryRestore, u"&Restore"),
     Message(StringId::RecoveryRemove, u"&Delete them"),
     Message(StringId::RecoveryLater, u"&Later"),
+    Message(StringId::PinItem, u"pin %s"),
+    Message(StringId::PinItemNumber, u"number %s"),
+    Message(StringId::PinItemOverlined, u"overlined"),
+    Message(StringId::MenuBarName, u"Menus"),
+    Message(StringId::MoreToolsName, u"More tools"),
+    Message(StringId::ManualTitle, u"Mivo - manual"),
+    Message(StringId::ManualMissing, u"The manual was not found beside the program."),
 });
 
 constexpr auto kCommands = std::to_array<Entry>({
@@ -149,6 +156,7 @@ constexpr auto kCommands = std::to_array<Entry>({
     MenuText(Command::Undo, u"&Undo\tCtrl+Z"),
     MenuText(Command::About, u"&About Mivo..."),
     MenuText(Command::Exit, u"E&xit"),
+    MenuText(Command::Manual, u"&Manual\tF1"),
 });
 
 constexpr auto kHints = std::to_array<Entry>({
@@ -193,6 +201,7 @@ constexpr auto kHints = std::to_array<Entry>({
     HintText(Command::Undo, u"Undo the last operation"),
     HintText(Command::About, u"Show the version of Mivo"),
     HintText(Command::Exit, u"Quit Mivo"),
+    HintText(Command::Manual, u"Read how to work with Mivo"),
 });
 
 constexpr auto kMenus = std::to_array<Entry>({

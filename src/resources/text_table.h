@@ -113,6 +113,19 @@ enum class StringId : std::int32_t {
   RecoveryRestore,
   RecoveryRemove,
   RecoveryLater,
+
+  // What assistive programs say of a pin.
+  PinItem = 400,     ///< "%s" stands for its place
+  PinItemNumber,     ///< "%s" stands for its number, or its numbers
+  PinItemOverlined,  ///< its name has a bar
+
+  // What further parts of the window are called for assistive programs.
+  MenuBarName = 410,
+  MoreToolsName,  ///< the button at the end of a toolbar that is too long
+
+  // The manual.
+  ManualTitle = 420,
+  ManualMissing,
 };
 
 enum class MenuId : std::int32_t { File = 1, Edit, Component, View, Tool, Help };

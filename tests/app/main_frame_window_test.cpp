@@ -122,7 +122,7 @@ TEST_F(MainFrameWindowTest, MenusHoldTheirCommandsInOrder) {
             "&View: Zoom &In, Zoom &Out, | &Pin property, Swap pin name and pin num,\n"
             "&Tool: &Selector, &Pin, &Line, &Circle, Poly&gon, &Arc, &Text, | Edit &node mode, |"
             " Create &BIT-PATTERN,\n"
-            "&Help: &Safety copies..., | &About Mivo...,\n");
+            "&Help: &Manual, &Safety copies..., | &About Mivo...,\n");
 }
 
 TEST_F(MainFrameWindowTest, F6GoesRoundViewListAndNote) {

@@ -69,8 +69,9 @@ double Contrast(const QColor& a, const QColor& b) {
 
 TEST_F(StartLabelTest, CanBeReadOnTheWhiteViewUnderADarkTheme) {
   const QPalette usual = QApplication::palette();
-  QPalette dark(QColor(50, 50, 50));
-  QApplication::setPalette(dark);
+  QApplication::setPalette(QPalette(QColor(50, 50, 50)));
+  ASSERT_GT(QApplication::palette().color(QPalette::Text).lightness(), 200);
+  Restart();
   Frame().show();
   const QImage picture = Frame().View().viewport()->grab().toImage();
   QApplication::setPalette(usual);

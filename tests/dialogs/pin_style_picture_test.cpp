@@ -1,4 +1,5 @@
 #include "pin_style_picture.h"
+#include "pin_style_text.h"
 
 #include <gtest/gtest.h>
 

@@ -34,7 +34,8 @@ def test_fifty_pins_are_renamed_by_keyboard(start, sample, folder, desktop):
 
     def cell():
         """The text of the cell that is being edited; None when there is none."""
-        edits = grid.control.all(name=mivo.texts.first("Name"), role="text")
+        table = grid.control.all(role="table")[0]  # its cells come first, then the controls that edit them
+        edits = [each for each in table.children[-2:] if each.role == "text" and each.name == mivo.texts.first("Name")]
         return edits[0].text if edits and edits[0].has("showing") else None
 
     def copied():

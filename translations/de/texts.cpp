@@ -105,6 +105,15 @@ constexpr TranslatedText kTexts[] = {
     {IdOf(StringId::RecoveryRemove), "&Löschen"},
     {IdOf(StringId::RecoveryLater), "&Später"},
 
+    // Assistive programs and the manual
+    {IdOf(StringId::PinItem), "Pin %s"},
+    {IdOf(StringId::PinItemNumber), "Nummer %s"},
+    {IdOf(StringId::PinItemOverlined), "überstrichen"},
+    {IdOf(StringId::MenuBarName), "Menüs"},
+    {IdOf(StringId::MoreToolsName), "Weitere Werkzeuge"},
+    {IdOf(StringId::ManualTitle), "Mivo - Handbuch"},
+    {IdOf(StringId::ManualMissing), "Das Handbuch wurde neben dem Programm nicht gefunden."},
+
     // Commands
     {IdOf(Command::MoveNameUp), "Nach oben"},
     {IdOf(Command::MoveNameDown), "Nach unten"},
@@ -147,6 +156,7 @@ constexpr TranslatedText kTexts[] = {
     {IdOf(Command::Undo), "&Rückgängig\tStrg+Z"},
     {IdOf(Command::About), "&Über Mivo..."},
     {IdOf(Command::Exit), "&Beenden"},
+    {IdOf(Command::Manual), "&Handbuch\tF1"},
 
     // What the commands do
     {HintIdOf(Command::MoveNameUp), "Den ausgewählten Namen nach oben verschieben"},
@@ -193,6 +203,7 @@ constexpr TranslatedText kTexts[] = {
     {HintIdOf(Command::Undo), "Die letzte Änderung rückgängig machen"},
     {HintIdOf(Command::About), "Die Version von Mivo zeigen"},
     {HintIdOf(Command::Exit), "Mivo beenden"},
+    {HintIdOf(Command::Manual), "Lesen, wie man mit Mivo arbeitet"},
 
     // Menus
     {IdOf(MenuId::File), "&Datei"},

@@ -11,7 +11,8 @@
 #include "edit_for_grid.h"
 #include "pin_grid_look.h"
 #include "pin_grid_style.h"
-#include "pin_style_picture.h"
+#include "pin_prop_grid_accessible.h"
+#include "pin_style_text.h"
 #include "qt_text.h"
 #include "style_chooser.h"
 
@@ -43,6 +44,7 @@ CPinPropGrid::CPinPropGrid(CompEditor& editor, const SCommonFont& labelFont, con
       grid_(editor),
       cells_(LayoutFor(*this)),
       pictures_(labelFont, cells_.RowHeight() - 1) {
+  PinPropGridAccessible::Install();
   setObjectName(QStringLiteral("pinGrid"));
   setAccessibleName(ToQString(texts.Text(text::kGrid)));
   setFont(PinGridFont(*this));
@@ -90,6 +92,7 @@ void CPinPropGrid::CreateEditors() {
 void CPinPropGrid::Refresh() {
   grid_.Refresh();
   ShowChange();
+  PinPropGridAccessible::TellRefreshed(*this);
 }
 
 void CPinPropGrid::EndEdit() {
@@ -182,7 +185,11 @@ void CPinPropGrid::mousePressEvent(QMouseEvent* event) {
 void CPinPropGrid::mouseReleaseEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (event->button() != Qt::LeftButton || !rect().contains(at)) return;
-  grid_.Click(cells_.RowAt(at.y()) + grid_.RowScroll().First(), cells_.ColumnAt(at.x()));
+  Click(cells_.RowAt(at.y()) + grid_.RowScroll().First(), cells_.ColumnAt(at.x()));
+}
+
+void CPinPropGrid::Click(int row, int column) {
+  grid_.Click(row, column);
   ShowChange();
 }
 

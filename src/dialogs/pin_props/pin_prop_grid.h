@@ -31,6 +31,12 @@ class CPinPropGrid final : public QWidget {
 
   [[nodiscard]] const PinGrid& Grid() const noexcept { return grid_; }
   [[nodiscard]] const PinGridLayout& Cells() const noexcept { return cells_; }
+  [[nodiscard]] const TextTable& Texts() const noexcept { return texts_; }
+  /// Where a cell is, in sight or not. Rows are counted from the first pin, columns as in
+  /// pin_grid_column.
+  [[nodiscard]] QRect CellRect(int row, int column) const;
+  /// What a click on a cell does.
+  void Click(int row, int column);
   void ScrollRows(ScrollRequest request, int thumb);
   void ScrollBlocks(ScrollRequest request, int thumb);
 
@@ -57,7 +63,6 @@ class CPinPropGrid final : public QWidget {
   void OpenStyleChooser(const QRect& cell);
   void HideEditors();
   void ShowChange();
-  [[nodiscard]] QRect CellRect(int row, int column) const;
   [[nodiscard]] int LastColumnInSight() const;
 
   // pin_prop_grid_painting.cpp

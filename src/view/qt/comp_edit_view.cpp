@@ -7,6 +7,8 @@
 #include <cmath>
 #include <memory>
 
+#include "comp_edit_view_accessible.h"
+
 namespace mivo {
 namespace {
 
@@ -65,6 +67,7 @@ void ShowBar(QScrollBar& bar, const ScrollBar& state, int line) {
 
 CCompEditView::CCompEditView(PropertyPrompts& prompts, QWidget* parent)
     : QAbstractScrollArea(parent), editor_({*this, prompts, clipboard_, surfaces_, commonFont_}) {
+  CompEditViewAccessible::Install();
   setObjectName(QStringLiteral("componentView"));
   setFocusPolicy(Qt::StrongFocus);
   // The menu opens when the button is released, unless the mouse panned; the editor decides.

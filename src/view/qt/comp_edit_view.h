@@ -7,6 +7,7 @@
 #include "comp_editor.h"
 #include "qt_surface.h"
 #include "qt_text_clipboard.h"
+#include "text_table.h"
 
 namespace mivo {
 
@@ -28,6 +29,10 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
 
   /// Where pins and drawing objects are put and taken; the frame's whole components go there, too.
   [[nodiscard]] QtTextClipboard& Clipboard() noexcept { return clipboard_; }
+
+  /// What pins are called for assistive programs; English by default.
+  void SetTexts(TextTable texts) { texts_ = std::move(texts); }
+  [[nodiscard]] const TextTable& Texts() const noexcept { return texts_; }
 
   /// The component point under the mouse; nothing when the mouse is elsewhere.
   [[nodiscard]] std::optional<SPoint> MousePoint() const;
@@ -77,6 +82,7 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   [[nodiscard]] PixelPoint DevicePoint(QPointF position) const;
   void TakeSize();
 
+  TextTable texts_;
   SCommonFont commonFont_;
   QtSurfaceFactory surfaces_;
   QtTextClipboard clipboard_;

@@ -1,5 +1,5 @@
-#ifndef MIVO_DIALOGS_PIN_ROWS_H
-#define MIVO_DIALOGS_PIN_ROWS_H
+#ifndef MIVO_EDIT_PIN_ROWS_H
+#define MIVO_EDIT_PIN_ROWS_H
 
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@
 
 namespace mivo {
 
-/// A row of the pin grid.
+/// A pin as lists of all pins show it.
 struct PinRow {
   const SCompPin* pin;  ///< the document's; good until its pins come, go or change
   bool isSelected;      ///< whether it is in the document's selection
