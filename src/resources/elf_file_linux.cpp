@@ -23,7 +23,7 @@ bool Fits(std::uint64_t offset, std::uint64_t length, std::uint64_t size) {
 }
 
 bool IsHeader(const Header& header) {
-  return std::equal(ELFMAG, ELFMAG + SELFMAG, header.e_ident) &&
+  return std::equal(header.e_ident, &header.e_ident[SELFMAG], ELFMAG) &&
          header.e_ident[EI_CLASS] == kClass && header.e_phentsize == sizeof(Segment);
 }
 
