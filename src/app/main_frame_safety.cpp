@@ -35,11 +35,14 @@ LibraryView CMainFrame::OpenLibrary() const {
 void CMainFrame::RecordChanges() {
   guard_.RecordNames(OpenLibrary());
   const CompEditor& editor = view_->Editor();
-  const std::uint64_t revision = editor.Document().Revision();
-  if (editor.Component() == nullptr || revision == recordedRevision_) return;
-  recordedRevision_ = revision;
+  const SCompEditDoc& document = editor.Document();
+  if (editor.Component() == nullptr) return;
+  // What is not committed is in no other place, should the recovery file have started over.
+  const bool isCommitted = !document.IsDirty() && !document.SelectionChanged();
+  if (isCommitted && document.Revision() == recordedRevision_) return;
+  recordedRevision_ = document.Revision();
   SComponent now = *editor.Component();
-  editor.Document().CopyTo(now);
+  document.CopyTo(now);
   guard_.RecordComponent(OpenLibrary(), *editor.Component(), now);
 }
 

@@ -12,9 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file of this size starts over: reading it would take longer than it saves.
-constexpr std::uint64_t kMostBytes = std::uint64_t{64} << 20;
-
 /// Differs, nearly always, when names, their order, their components or the text differ.
 std::uint64_t FingerprintOf(const LibraryView& library) {
   const auto mix = [](std::uint64_t hash, std::u16string_view text) {
@@ -86,10 +83,6 @@ std::string RecoveryJournal::Base(const LibraryView& library) {
 }
 
 bool RecoveryJournal::Start(const LibraryView& library) {
-  if (size_ > kMostBytes) {
-    file_.Remove();
-    baseIsFile_ = false;
-  }
   if (file_.IsHeld()) return true;
   if (!CreateFile()) return false;
   size_ = 0;
@@ -134,6 +127,10 @@ void RecoveryJournal::RecordNames(const LibraryView& library) {
 
 void RecoveryJournal::RecordComponent(const LibraryView& library, const SComponent& component,
                                       const SComponent& now) {
+  if (file_.IsHeld() && size_ > mostBytes_) {
+    file_.Remove();
+    baseIsFile_ = false;
+  }
   RecordNames(library);
   if (!Start(library)) return;
   std::string bytes;

@@ -24,8 +24,12 @@ class RecoveryJournal {
  public:
   static constexpr const char* kExtension = ".mivo-recovery";
 
+  /// A file of this size starts over: reading it would take longer than it saves.
+  static constexpr std::uint64_t kMostBytes = std::uint64_t{64} << 20;
+
   /// `folder` is created when there is something to write; an empty one writes nothing.
-  explicit RecoveryJournal(std::filesystem::path folder) : folder_(std::move(folder)) {}
+  explicit RecoveryJournal(std::filesystem::path folder, std::uint64_t mostBytes = kMostBytes)
+      : folder_(std::move(folder)), mostBytes_(mostBytes) {}
 
   enum class Origin {
     Loaded,  ///< the library was just read from its file, or is new
@@ -60,6 +64,7 @@ class RecoveryJournal {
   bool Write(const std::string& bytes);
 
   std::filesystem::path folder_;
+  std::uint64_t mostBytes_;
   LockedFile file_;
   RecoveryStart start_;
   bool baseIsFile_ = false;  // what the library was is in its file, if that has not changed since

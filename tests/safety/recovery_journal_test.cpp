@@ -233,6 +233,22 @@ TEST_F(RecoveryJournalTest, AnUnsavedLibraryIsInItsFileAtOnce) {
   EXPECT_EQ(TextOf(recovered->doc), kParts);
 }
 
+TEST_F(RecoveryJournalTest, AFileThatGrewTooLargeStartsOver) {
+  RecoveryJournal small(folder_ / "recovery", 3000);
+  small.Begin(open_.View(), open_.start, Origin::Loaded);
+  std::uintmax_t largest = 0;
+  for (int i = 0; i < 50; ++i) {
+    SComponent& component = open_.Component(i % 2 == 0 ? u"first" : u"second");
+    component.note = std::u16string(static_cast<std::size_t>(i), u'n');
+    small.RecordComponent(open_.View(), component, component);
+    largest = std::max(largest, fs::file_size(small.File()));
+    const auto recovered = ReadRecovery(BytesOf(small.File()));
+    ASSERT_TRUE(recovered);
+    EXPECT_EQ(TextOf(recovered->doc), TextOf(open_.View()));
+  }
+  EXPECT_LT(largest, 4000u);
+}
+
 TEST_F(RecoveryJournalTest, AFullDiskTakesTheFileAwayAndTheNextChangeStartsOver) {
   const std::string outcome = RunInChild([&]() -> std::string {
     ReportFileSizeLimitAsFailure();

@@ -5,6 +5,10 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
+
+#include "temp_folder.h"
+#include "unprivileged_user.h"
 
 namespace mivo {
 namespace {
@@ -61,6 +65,21 @@ TEST_F(SettingsFileTest, FileThatCannotBeReadGivesDefaultsAndIsNotCreated) {
   settings.SetInt(u"Setting", u"a", 3);
   EXPECT_EQ(settings.GetInt(u"Setting", u"a", 7), 3);
   EXPECT_FALSE(fs::exists(File()));
+}
+
+// As on a disk that can only be read: nothing is written, and nobody is disturbed.
+TEST(ReadOnlySettingsFile, KeepsTheChangeInMemory) {
+  const TempFolder folder;
+  const fs::path path = folder.Put("MIVO.INI", "[A]\r\nk=1\r\n");
+  const UnprivilegedUser user;
+  fs::permissions(path, fs::perms::owner_read);
+  fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
+  SettingsFile settings(path);
+  settings.SetInt(u"A", u"k", 2);
+  EXPECT_EQ(settings.GetInt(u"A", u"k", 0), 2);
+  fs::permissions(folder.Path(), fs::perms::owner_all);
+  EXPECT_EQ(BytesOf(path), "[A]\r\nk=1\r\n");
+  EXPECT_EQ(folder.Names(), std::vector<std::string>{"MIVO.INI"});
 }
 
 TEST_F(SettingsFileTest, HugeFileIsNoSettingsFile) {

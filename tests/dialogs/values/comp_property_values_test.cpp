@@ -35,22 +35,14 @@ TEST(CompPropertyValues, NamesAreVisibleAsciiWithoutBraces) {
     bool isAccepted;
   };
   const Case cases[] = {
-      {u"A", true},
-      {std::u16string(32, u'A'), true},
-      {u"!~", true},
-      {u"74HC00/A(b)[c]|", true},
-      {u"", false},
-      {std::u16string(33, u'A'), false},
-      {u"R ", false},
-      {u" R", false},
-      {u"R{1}", false},
-      {u"R{", false},
-      {u"R}", false},
-      {u"R\x7F", false},
-      {u"R\t", false},
-      {u"\u00C4", false},
-      {u"\u2126", false},
-      {std::u16string(1, u'\0'), false},
+      {u"A", true},       {std::u16string(32, u'A'), true},
+      {u"!~", true},      {u"74HC00/A(b)[c]|", true},
+      {u"", false},       {std::u16string(33, u'A'), false},
+      {u"R ", false},     {u" R", false},
+      {u"R{1}", false},   {u"R{", false},
+      {u"R}", false},     {u"R\x7F", false},
+      {u"R\t", false},    {u"\u00C4", false},
+      {u"\u2126", false}, {std::u16string(1, u'\0'), false},
   };
   for (const Case& test : cases) {
     EXPECT_EQ(IsComponentName(test.name), test.isAccepted) << testing::PrintToString(test.name);
