@@ -35,7 +35,7 @@ int main(int argc, char** argv) {
   const std::vector<fs::path> files = FilesOf(argc, argv);
   for (const fs::path& file : files) {
     // Before the run, so that the name of an input that crashes is the last line.
-    std::printf("%s\n", file.c_str());
+    std::printf("%s\n", file.string().c_str());
     std::fflush(stdout);
     std::ifstream stream(file, std::ios::binary);
     if (!stream) return 1;

@@ -5,12 +5,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QSessionManager>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QStyle>
@@ -34,13 +34,10 @@
 #include "start_label.h"
 #include "state_folder.h"
 #include "status_pane.h"
+#include "window_placement.h"
 
 namespace mivo {
 namespace {
-
-constexpr std::int32_t kShowNormal = 1;
-constexpr std::int32_t kShowMinimized = 2;
-constexpr std::int32_t kShowMaximized = 3;
 
 constexpr std::size_t kMaxFaceName = 32;
 
@@ -146,15 +143,8 @@ void CMainFrame::CreateParts() {
           [this] { MoveFocus(+1); });
   connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F6), this), &QShortcut::activated, this,
           [this] { MoveFocus(-1); });
-  // The end of the desktop session is a way out like any other.
-  connect(
-      qApp, &QGuiApplication::commitDataRequest, this,
-      [this](QSessionManager& session) {
-        if (!busy_ && !session.allowsInteraction()) return;
-        if (!MayEndSession()) session.cancel();
-        if (!busy_) session.release();
-      },
-      Qt::DirectConnection);
+  sessionEnd_ = std::make_unique<SessionEnd>(
+      *this, [this](bool mayAsk) { return (!busy_ && !mayAsk) || MayEndSession(); });
   connect(&view_->Clipboard(), &QtTextClipboard::Changed, this, &CMainFrame::UpdateActions);
 }
 
@@ -178,14 +168,11 @@ void CMainFrame::ReadSettings() {
 
 void CMainFrame::SaveWindowPlacement() {
   if (!isVisible()) return;
-  const bool isNormal = !isMaximized() && !isMinimized() && !isFullScreen();
-  const QSize size = isNormal ? this->size() : normalGeometry().size();
-  const std::int32_t show =
-      isMinimized() ? kShowMinimized : (isMaximized() ? kShowMaximized : kShowNormal);
-  settings_.SetInt(u"WindowPosition", u"cmdShow", show);
-  if (!size.isValid()) return;
-  settings_.SetInt(u"WindowPosition", u"Width", size.width());
-  settings_.SetInt(u"WindowPosition", u"Height", size.height());
+  const WindowPlacement placement = PlacementOf(*this);
+  settings_.SetInt(u"WindowPosition", u"cmdShow", placement.show);
+  if (placement.size.isEmpty()) return;
+  settings_.SetInt(u"WindowPosition", u"Width", placement.size.width());
+  settings_.SetInt(u"WindowPosition", u"Height", placement.size.height());
 }
 
 void CMainFrame::TogglePinGrid() {
@@ -369,7 +356,7 @@ void CMainFrame::MoveFocus(int direction) {
 void CMainFrame::ShowTitle() {
   QString title = ToQString(kProgramName);
   if (doc_.Path() && !doc_.Path()->empty()) {
-    title += QStringLiteral(" - ") + ToQString(*doc_.Path());
+    title += QStringLiteral(" - ") + QDir::toNativeSeparators(ToQString(*doc_.Path()));
   }
   setWindowTitle(title);
 }

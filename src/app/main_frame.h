@@ -9,6 +9,7 @@
 #include "library_guard.h"
 #include "mivo_doc.h"
 #include "property_dialogs.h"
+#include "session_end.h"
 #include "settings_file.h"
 #include "task_progress.h"
 #include "text_table.h"
@@ -152,6 +153,7 @@ class CMainFrame final : public QMainWindow {
   NamePane* pane_ = nullptr;
   StartLabel* startLabel_;
   StatusPane* status_;
+  std::unique_ptr<SessionEnd> sessionEnd_;
   std::unique_ptr<CPinProps> pinProps_;  ///< null until it was shown for the first time
 };
 

@@ -16,12 +16,12 @@
 #include "qt_fonts.h"
 #include "qt_text.h"
 #include "settings_location.h"
+#include "window_placement.h"
 
 namespace mivo {
 namespace {
 
 constexpr std::int32_t kUseDefault = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kMaximized = 3;
 constexpr std::int32_t kMinWidth = 400;
 constexpr std::int32_t kMinHeight = 300;
 constexpr QSize kDefaultSize(1100, 720);
@@ -88,9 +88,11 @@ void CMivoApp::TranslateToolkit() {
 void CMivoApp::ShowFrame() {
   const std::int32_t width = settings_.GetInt(u"WindowPosition", u"Width", kUseDefault);
   const std::int32_t height = settings_.GetInt(u"WindowPosition", u"Height", kUseDefault);
-  const bool isMaximized = settings_.GetInt(u"WindowPosition", u"cmdShow", 1) == kMaximized;
-  frame_->resize(InitialLength(width, kMinWidth, kDefaultSize.width()),
-                 InitialLength(height, kMinHeight, kDefaultSize.height()));
+  const bool isMaximized =
+      settings_.GetInt(u"WindowPosition", u"cmdShow", 1) == WindowPlacement::kMaximized;
+  const QSize placed = PlacedSize(*frame_, kDefaultSize);
+  frame_->resize(InnerSize(*frame_, {InitialLength(width, kMinWidth, placed.width()),
+                                     InitialLength(height, kMinHeight, placed.height())}));
   if (isMaximized) {
     frame_->showMaximized();
   } else {

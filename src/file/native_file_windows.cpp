@@ -1,9 +1,16 @@
 #define NOMINMAX
+// clang-format off
 #include <windows.h>
+#include <aclapi.h>
+// clang-format on
 
 #include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <new>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "file_writer.h"
 #include "native_file.h"
@@ -23,16 +30,48 @@ HANDLE ToHandle(std::intptr_t handle) noexcept {
   return reinterpret_cast<HANDLE>(handle);
 }
 
+/// The path as the system takes it whatever its length: a long one has to be complete, with a mark.
+std::wstring AnyLength(const std::filesystem::path& path) {
+  // What is usual, less a short name: the limit for a folder in which files are to be made.
+  constexpr DWORD kUsualLength = MAX_PATH - 12;
+  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  if (size <= kUsualLength || path.native().starts_with(LR"(\\?\)")) return path.native();
+  std::wstring full(size, L'\0');
+  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+  const bool isShared = full.starts_with(LR"(\\)");
+  return isShared ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
+}
+
 std::error_code Open(const std::filesystem::path& path, DWORD access, DWORD disposition,
-                     std::intptr_t& handle) noexcept {
+                     std::intptr_t& handle) {
   // Others may go on using the file. A directory can be opened only with backup semantics, and is
   // to be refused in words that say what it is.
   const HANDLE opened = CreateFileW(
-      path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-      disposition, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+      AnyLength(path).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+      nullptr, disposition, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return LastError();
   handle = reinterpret_cast<std::intptr_t>(opened);
   return {};
+}
+
+// FileRenameInfoEx, which the headers of mingw-w64 forget.
+constexpr auto kFileRenameInfoEx = static_cast<FILE_INFO_BY_HANDLE_CLASS>(22);
+
+/// Renames as POSIX does, also when somebody has the target open and shares it for that. Only some
+/// file systems can, and Wine cannot.
+bool RenameOverOpenFile(const std::wstring& from, const std::wstring& to) {
+  std::intptr_t handle = 0;
+  if (Open(from, DELETE, OPEN_EXISTING, handle)) return false;
+  std::vector<char> memory(sizeof(FILE_RENAME_INFO) + to.size() * sizeof(wchar_t));
+  auto* const info = new (memory.data()) FILE_RENAME_INFO{};
+  info->Flags = FILE_RENAME_FLAG_REPLACE_IF_EXISTS | FILE_RENAME_FLAG_POSIX_SEMANTICS;
+  info->FileNameLength = static_cast<DWORD>(to.size() * sizeof(wchar_t));
+  std::memcpy(memory.data() + offsetof(FILE_RENAME_INFO, FileName), to.data(),
+              info->FileNameLength);
+  const BOOL renamed = SetFileInformationByHandle(ToHandle(handle), kFileRenameInfoEx, info,
+                                                  static_cast<DWORD>(memory.size()));
+  CloseHandle(ToHandle(handle));
+  return renamed != FALSE;
 }
 
 }  // namespace
@@ -53,6 +92,12 @@ std::error_code NativeFile::OpenToRead(const std::filesystem::path& path, Native
 }
 
 std::error_code NativeFile::OpenToWrite(const std::filesystem::path& path, NativeFile& file) {
+  // Wine lets its root write what is read-only.
+  const DWORD attributes = GetFileAttributesW(AnyLength(path).c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
+      (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+    return {ERROR_ACCESS_DENIED, std::system_category()};
+  }
   NativeFile opened;
   const auto error = Open(path, GENERIC_WRITE, OPEN_EXISTING, opened.handle_);
   file = std::move(opened);
@@ -61,9 +106,9 @@ std::error_code NativeFile::OpenToWrite(const std::filesystem::path& path, Nativ
 
 std::error_code NativeFile::Create(const std::filesystem::path& path, Access /*access*/,
                                    NativeFile& file) {
-  // The folder's access list holds for the new file; MoveOver gives it the old file's.
+  // The folder's access list holds for the new file until it takes the old file's.
   NativeFile created;
-  const auto error = Open(path, GENERIC_WRITE, CREATE_NEW, created.handle_);
+  const auto error = Open(path, GENERIC_WRITE | WRITE_DAC, CREATE_NEW, created.handle_);
   file = std::move(created);
   return error;
 }
@@ -150,8 +195,27 @@ std::error_code NativeFile::Close() noexcept {
   return {};
 }
 
-std::error_code NativeFile::TakeAccessFrom(const NativeFile& /*other*/) noexcept {
-  // ReplaceFileW does it when the file is put in its place.
+std::error_code NativeFile::TakeAccessFrom(const NativeFile& other) noexcept {
+  // Nobody is refused a save because a file system has no such things.
+  FILE_BASIC_INFO basic{};
+  if (GetFileInformationByHandleEx(ToHandle(other.handle_), FileBasicInfo, &basic, sizeof basic)) {
+    basic.LastAccessTime = basic.LastWriteTime = basic.ChangeTime = {};  // as they are
+    SetFileInformationByHandle(ToHandle(handle_), FileBasicInfo, &basic, sizeof basic);
+  }
+  PACL list = nullptr;
+  PSECURITY_DESCRIPTOR descriptor = nullptr;
+  if (GetSecurityInfo(ToHandle(other.handle_), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr,
+                      nullptr, &list, nullptr, &descriptor) == ERROR_SUCCESS) {
+    SECURITY_DESCRIPTOR_CONTROL control = 0;
+    DWORD revision = 0;
+    GetSecurityDescriptorControl(descriptor, &control, &revision);
+    const DWORD inheriting = (control & SE_DACL_PROTECTED) != 0
+                                 ? PROTECTED_DACL_SECURITY_INFORMATION
+                                 : UNPROTECTED_DACL_SECURITY_INFORMATION;
+    SetSecurityInfo(ToHandle(handle_), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION | inheriting,
+                    nullptr, nullptr, list, nullptr);
+    LocalFree(descriptor);
+  }
   return {};
 }
 
@@ -180,11 +244,10 @@ std::filesystem::path FinalTarget(const std::filesystem::path& path) {
 }
 
 std::error_code MoveOver(const std::filesystem::path& source, const std::filesystem::path& target) {
-  // Keeps the old file's attributes and access list, but wants an old file.
-  constexpr DWORD kFlags = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
-  if (ReplaceFileW(target.c_str(), source.c_str(), nullptr, kFlags, nullptr, nullptr)) return {};
-  if (GetLastError() == ERROR_FILE_NOT_FOUND &&
-      MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)) {
+  const std::wstring from = AnyLength(source);
+  const std::wstring to = AnyLength(target);
+  if (RenameOverOpenFile(from, to) ||
+      MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
     return {};
   }
   return LastError();
@@ -195,7 +258,7 @@ void FlushFolderOf(const std::filesystem::path& /*path*/) noexcept {
 }
 
 void RemoveFile(const std::filesystem::path& path) noexcept {
-  DeleteFileW(path.c_str());
+  DeleteFileW(AnyLength(path).c_str());
 }
 
 void ReportFileSizeLimitAsFailure() noexcept {

@@ -1,4 +1,5 @@
 #include <QCoreApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -91,7 +92,7 @@ TEST_F(MainFrameFileTest, SchematicIsNeverOverwritten) {
   EXPECT_EQ(ListedNames(), "[part]");
   Prompts().savePaths = {PathOf("a.ZLB")};
   Trigger(Command::Save);
-  EXPECT_EQ(Prompts().proposedNames, std::vector{PathOf("a.ZLB")});
+  EXPECT_EQ(Prompts().proposedNames, std::vector{QDir::fromNativeSeparators(PathOf("a.ZLB"))});
   EXPECT_EQ(Content("a.ZSC"), schematic);
   EXPECT_EQ(Content("a.ZLB"), LibraryFile(ComponentRecord("part")));
 }
@@ -335,7 +336,7 @@ TEST_F(MainFrameFileTest, TitleHasEveryCharacterOfThePath) {
   Prompts().savePaths = {path};
   Trigger(Command::SaveAs);
   EXPECT_EQ(Title(), "Mivo - " + path.toStdString());
-  EXPECT_TRUE(std::filesystem::exists(path.toStdString()));
+  EXPECT_TRUE(std::filesystem::exists(path.toStdU16String()));
 }
 
 TEST_F(MainFrameFileTest, FileMayBeDroppedOnEveryPart) {

@@ -1,5 +1,6 @@
 #include "list_command.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -100,7 +101,7 @@ TEST(List, AFileThatCannotBeReadIsAFailure) {
   const std::string path = (folder / "none").string();
   EXPECT_EQ(RunList({path, false}, captured.io), ExitCode::Failure);
   EXPECT_EQ(captured.output, "");
-  EXPECT_EQ(captured.errors, "mivo-cli: " + path + ": No such file or directory\n");
+  EXPECT_THAT(captured.errors, testing::StartsWith("mivo-cli: " + path + ": "));
 }
 
 TEST(List, AStandardInputThatCannotBeReadIsAFailure) {

@@ -113,6 +113,9 @@ class FileName : public testing::TestWithParam<File> {};
 // Each of these could be taken for something else than a name.
 TEST_P(FileName, IsTakenAsItIs) {
   const std::string file = GetParam().file;
+#ifdef _WIN32
+  if (file.find('"') != std::string::npos) GTEST_SKIP() << "no file can be called so";
+#endif
   const TempFolder folder;
   folder.Put(file, LibraryOf("STRANGE:1\n"));
   std::filesystem::current_path(folder.Path());

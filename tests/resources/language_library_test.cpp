@@ -1,7 +1,6 @@
 #include "language_library.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -9,6 +8,10 @@
 
 #include "mivo_language.h"
 #include "temp_folder.h"
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 namespace mivo {
 namespace {
@@ -92,6 +95,8 @@ INSTANTIATE_TEST_SUITE_P(Contents, NoLanguageLibrary,
                          testing::Values(std::string(), std::string("This is a text."),
                                          std::string(10000, '\0'), std::string("MZ\x90\0", 4)));
 
+#ifndef _WIN32  // Windows' loader looks at the whole file first; Wine's does not, and would fail
+                // this
 // The system's loader ends the process when it touches what is missing.
 TEST(LanguageLibrary, CutOffAnywhereIsIgnored) {
   const TempFolder folder;
@@ -112,16 +117,23 @@ TEST(LanguageLibrary, OfAnotherMachineIsIgnored) {
   bytes[4] = static_cast<char>(3 - bytes[4]);  // 32 bits for 64, and the other way round
   EXPECT_FALSE(LoadLanguageLibrary(folder.Put(kLanguageLibraryName, bytes)));
 }
+#endif
 
-TEST(LanguageLibrary, FolderOrPipeOfThatNameIsIgnored) {
+TEST(LanguageLibrary, FolderOfThatNameIsIgnored) {
   const TempFolder folder;
   const fs::path path = folder / kLanguageLibraryName;
   fs::create_directory(path);
   EXPECT_FALSE(LoadLanguageLibrary(path));
-  fs::remove(path);
+}
+
+#ifndef _WIN32
+TEST(LanguageLibrary, PipeOfThatNameIsIgnored) {
+  const TempFolder folder;
+  const fs::path path = folder / kLanguageLibraryName;
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
   EXPECT_FALSE(LoadLanguageLibrary(path)) << "and nobody waits for its other end";
 }
+#endif
 
 TEST(LanguageLibrary, PathThatDependsOnTheCurrentFolderIsIgnored) {
   const fs::path relative = fs::relative(LibraryPath("good"));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -10,6 +11,8 @@
 #include "temp_folder.h"
 #include "unprivileged_user.h"
 
+#include "temp_folder.h"
+
 namespace mivo {
 namespace {
 
@@ -17,12 +20,6 @@ namespace fs = std::filesystem;
 
 class SettingsFileTest : public testing::Test {
  protected:
-  SettingsFileTest() {
-    std::string pattern = fs::temp_directory_path() / "mivo-settings-XXXXXX";
-    folder_ = mkdtemp(pattern.data());
-  }
-  ~SettingsFileTest() override { fs::remove_all(folder_); }
-
   [[nodiscard]] fs::path File() const { return folder_ / "MIVO.INI"; }
   void Put(std::string_view content) const { std::ofstream(File(), std::ios::binary) << content; }
   [[nodiscard]] std::string Content() const {
@@ -31,7 +28,7 @@ class SettingsFileTest : public testing::Test {
   }
 
  private:
-  fs::path folder_;
+  const TempFolder folder_;
 };
 
 TEST_F(SettingsFileTest, WritesAChangedValueAndNothingElse) {
@@ -45,9 +42,10 @@ TEST_F(SettingsFileTest, WritesAChangedValueAndNothingElse) {
 TEST_F(SettingsFileTest, SameValueLeavesTheFileAlone) {
   Put("[Setting]\nEditWindowMargin=0\n");
   SettingsFile settings(File());
-  fs::last_write_time(File(), fs::file_time_type{});
+  fs::last_write_time(File(), fs::last_write_time(File()) - std::chrono::hours(1));
+  const fs::file_time_type before = fs::last_write_time(File());
   settings.SetInt(u"Setting", u"EditWindowMargin", 0);
-  EXPECT_EQ(fs::last_write_time(File()), fs::file_time_type{});
+  EXPECT_EQ(fs::last_write_time(File()), before);
 }
 
 TEST_F(SettingsFileTest, KeepsWhatAnotherProgramWroteMeanwhile) {

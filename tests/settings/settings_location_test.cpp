@@ -6,6 +6,8 @@
 #include <iterator>
 #include <string>
 
+#include "temp_folder.h"
+
 namespace mivo {
 namespace {
 
@@ -14,11 +16,8 @@ namespace fs = std::filesystem;
 class SettingsLocationTest : public testing::Test {
  protected:
   SettingsLocationTest() {
-    std::string pattern = fs::temp_directory_path() / "mivo-settings-XXXXXX";
-    root_ = mkdtemp(pattern.data());
     for (const fs::path& folder : {Executable(), Current(), User()}) fs::create_directories(folder);
   }
-  ~SettingsLocationTest() override { fs::remove_all(root_); }
 
   [[nodiscard]] fs::path Executable() const { return root_ / "program"; }
   [[nodiscard]] fs::path Current() const { return root_ / "work"; }
@@ -31,14 +30,16 @@ class SettingsLocationTest : public testing::Test {
     return ChooseSettingsFile({Executable(), Executable(), root_ / "share"});
   }
 
-  static void Make(const fs::path& folder) { std::ofstream(folder / "MIVO.INI") << "[Setting]\n"; }
+  static void Make(const fs::path& folder) {
+    std::ofstream(folder / "MIVO.INI", std::ios::binary) << "[Setting]\n";
+  }
   static std::string Content(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
   }
 
  private:
-  fs::path root_;
+  const TempFolder root_;
 };
 
 TEST_F(SettingsLocationTest, CreatedBesideTheProgramWithTheByteOrderMarkAlone) {

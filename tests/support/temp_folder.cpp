@@ -1,18 +1,18 @@
 #include "temp_folder.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 namespace mivo {
 
 TempFolder::TempFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "folder.XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("cannot create " + name);
-  path_ = name;
+  std::random_device random;
+  do {
+    path_ = std::filesystem::temp_directory_path() / ("folder." + std::to_string(random()));
+  } while (!std::filesystem::create_directory(path_));
 }
 
 TempFolder::~TempFolder() {

@@ -22,7 +22,7 @@ TEST_P(SequenceTest, Plays) {
       wrong = error.what();
     }
     if (!wrong) continue;
-    ADD_FAILURE_AT(sequence.file.c_str(), step.line)
+    ADD_FAILURE_AT(sequence.file.string().c_str(), step.line)
         << sequence.name << "\n  " << step.text << "\n  " << *wrong;
   }
   EXPECT_FALSE(sequence.steps.empty());

@@ -89,7 +89,7 @@ class Desktop:
         window = self._window(title)
         self._ask(window, "_NET_ACTIVE_WINDOW", ON_BEHALF_OF_THE_USER, X.CurrentTime)
         wait_until(
-            lambda: self._property(self._root, "_NET_ACTIVE_WINDOW")[0] == window.id,
+            lambda: window.id in self._property(self._root, "_NET_ACTIVE_WINDOW"),
             f"the window {title!r} to get the keyboard",
         )
 
@@ -146,15 +146,36 @@ class Desktop:
     def _window(self, title):
         return wait_until(lambda: self._listed_window(title), f"the window {title!r}")
 
+    def has_window(self, title):
+        return self._listed_window(title) is not None
+
+    def has_window_with(self, part):
+        """Whether there is a window with this part in its title."""
+        return any(part in title for _, title in self._listed_windows())
+
+    def active_title(self):
+        """The title of the window that has the keyboard; None when there is none."""
+        active = self._property(self._root, "_NET_ACTIVE_WINDOW")
+        return next((title for window, title in self._listed_windows() if window.id in active), None)
+
+    def click_in_corner(self, title):
+        """Clicks into the window, near its lower right corner."""
+        window = self._window(title)
+        size = window.get_geometry()
+        corner = self._root.translate_coords(window, size.width - 60, size.height - 60)
+        self.input.click((corner.x, corner.y))
+
     def _listed_window(self, title):
+        return next((window for window, its_title in self._listed_windows() if its_title == title), None)
+
+    def _listed_windows(self):
+        """The windows and their titles."""
         for number in self._property(self._root, "_NET_CLIENT_LIST"):
             window = self._display.create_resource_object("window", number)
             try:
-                if bytes(self._property(window, "_NET_WM_NAME")).decode() == title:
-                    return window
+                yield window, bytes(self._property(window, "_NET_WM_NAME")).decode(errors="replace")
             except Xlib.error.BadWindow:
                 continue
-        return None
 
     def _atom(self, name):
         return self._display.intern_atom(name)

@@ -1,0 +1,77 @@
+"""The installer, run silently: what it puts where, and what is left when Mivo is uninstalled."""
+
+import subprocess
+
+import pytest
+
+from conftest import BUILD, environment_on
+from driver.waiting import wait_until
+
+UNINSTALL = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Mivo"
+CLASSES = r"HKCU\Software\Classes"
+
+
+@pytest.fixture
+def installer():
+    found = sorted((BUILD / "package").glob("*-setup.exe"))
+    if not found:
+        pytest.skip("there is no installer; packaging/windows/pack makes one")
+    return found[0]
+
+
+@pytest.fixture
+def user():
+    """The user's folder in the Wine prefix."""
+    users = BUILD / "wine-window/drive_c/users"
+    return next(path for path in users.iterdir() if path.name != "Public")
+
+
+@pytest.fixture
+def registry(run):
+    def value(key, name=None):
+        """The value; None when there is none."""
+        query = run("reg", "query", key, *(["/v", name] if name else ["/ve"]))
+        if query.wait_end() != 0:
+            return None
+        return query.log.read_text(errors="replace").split("REG_SZ")[-1].strip()
+
+    return value
+
+
+def test_it_installs_and_uninstalls(desktop, run, registry, installer, user):
+    local = user / "AppData/Local"
+    program = local / "Programs/Mivo"
+    settings = local / "HallvarnONLINE/MIVO.INI"
+    shortcut = user / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Mivo.lnk"
+    assert not program.exists() and not settings.exists()
+
+    assert run(installer, "/S").wait_end() == 0
+    assert {"mivo.exe", "mivo-cli.exe", "README.txt", "licences", "samples"} <= {path.name for path in program.iterdir()}
+    assert not (program / "mivo_lang.dll").exists(), "English, unless asked for"
+    assert shortcut.exists()
+    assert settings.read_bytes() == b"\xff\xfe"
+    assert registry(CLASSES + r"\.ZLB") == "Mivo.Library"
+    assert registry(CLASSES + r"\.ZSC") == "Mivo.Schematic"
+    opened_by = registry(CLASSES + r"\Mivo.Library\shell\open\command")
+    assert opened_by.endswith(r'\AppData\Local\Programs\Mivo\mivo.exe" "%1"')
+    assert registry(UNINSTALL, "DisplayVersion") == "0.84.00"
+
+    # It runs from there, with the settings of the user.
+    run(program / "mivo.exe", program / "samples/standard.ZLB")
+    wait_until(lambda: desktop.has_window_with("standard.ZLB"), "a sample to be opened by Mivo", limit=120)
+    wait_until(lambda: "NoCheckPtnRectOnSave=1" in settings.read_bytes().decode("utf-16"), "the settings in use")
+    assert not (program / "MIVO.INI").exists()
+    subprocess.run(["wineserver", "--kill"], env=environment_on(desktop), check=False)
+
+    kept = settings.read_bytes()
+    assert run(installer, "/S").wait_end() == 0
+    assert settings.read_bytes() == kept, "what is there stays"
+
+    run(program / "uninstall.exe", "/S").wait_end()
+    wait_until(lambda: not program.exists(), "the program to go")
+    wait_until(lambda: registry(UNINSTALL, "DisplayVersion") is None, "the entry to go")
+    assert not shortcut.exists()
+    assert registry(CLASSES + r"\.ZLB") is None
+    assert registry(CLASSES + r"\Mivo.Library\shell\open\command") is None
+    assert settings.read_bytes() == kept, "the settings are the user's"
+    settings.unlink()

@@ -1,0 +1,208 @@
+"""What people do with Mivo on Windows, in real windows with real keys."""
+
+import shutil
+
+import pytest
+
+from conftest import BUILD, windows_path
+from driver.waiting import wait_until
+
+QUESTION = "Mivo"  # the title of every message
+
+COMPONENT = [
+    "+TARSL_DATA_V.1.0",
+    "+COMPONENT",
+    "+TARSL_LIB_V.1.0",
+    "VER:82",
+    "+COMP,N:ΩΨ7",
+    "X:4,Y:3,B:1",
+    "TYPE:GEN,FB:0",
+    "R:U",
+    "+PIN,N:A,DF:FFFFFFFF,L:L1,T:,M:1,-PIN",
+    "NOTE:,MFR:,MFRPN:,PKG:,-COMP",
+    "-TARSL_LIB_V.1.0",
+    "X:40,Y:30,LIB:ΩΨ7,N:ΩΨ7,R:U",
+    "-COMPONENT",
+    "-TARSL_DATA_V.1.0",
+    "",
+]
+
+
+def title_of(path):
+    return f"Mivo - {windows_path(path)}"
+
+
+COPY_COMPONENT = ("Alt+c", "Down", "Enter")
+PASTE_COMPONENT = ("Alt+c", "Down", "Down", "Enter")
+
+
+def press_until(desktop, condition, what, *keys):
+    """Presses the keys until they show: on a busy machine Wine loses some while it moves the focus."""
+    for attempt in range(6):
+        desktop.input.press(*keys)
+        try:
+            return wait_until(condition, what, limit=10)
+        except AssertionError:
+            if attempt == 5:
+                raise
+
+
+def delete_a_pin(desktop):
+    """Waits for every step to show, so that nothing else overtakes the keys."""
+    for key in ("Tab", "Del"):
+        before = desktop.picture()
+        press_until(desktop, lambda: desktop.picture() != before, f"what {key} changes", key)
+
+
+def lacks_one_pin(path, original):
+    """Whether the file has every line of the original in its place but that of one pin."""
+    lines = original.split(b"\n")
+    now = bytes_of(path).split(b"\n")
+    gone = next((i for i, line in enumerate(now) if line != lines[i]), len(lines) - 1)
+    return lines[gone].startswith(b"+PIN,") and now == lines[:gone] + lines[gone + 1 :]
+
+
+def bytes_of(path):
+    """The content of a file that the program may be replacing, which is not one step for Wine."""
+    try:
+        return path.read_bytes()
+    except FileNotFoundError:
+        return b""
+
+
+def settings_in(folder):
+    return bytes_of(folder / "MIVO.INI").decode("utf-16").replace("\r\n", "\n")
+
+
+def test_a_change_is_saved_byte_by_byte(desktop, start, sample):
+    path = sample("standard.ZLB")
+    original = path.read_bytes()
+    start(path.name, title=title_of(path))
+    delete_a_pin(desktop)
+    press_until(desktop, lambda: lacks_one_pin(path, original), "the saved file", "Ctrl+s")
+
+
+def test_the_native_dialog_makes_a_library_of_a_schematic(desktop, start, sample, folder):
+    path = sample("flasher.ZSC")
+    schematic = path.read_bytes()
+    mivo = start(path.name, title=title_of(path))
+    press_until(desktop, lambda: desktop.active_title() not in (title_of(path), None), "the dialog", "Ctrl+s")
+    desktop.input.press("Ctrl+a")
+    desktop.input.type(windows_path(folder / "made") + "\n")
+    made = folder / "made.ZLB"  # with the default extension
+    mivo.wait_window(title_of(made))
+    assert made.read_bytes().startswith(b"+TARSL_LIB_V.1.0\nVER:82\n")
+    assert path.read_bytes() == schematic
+
+
+def test_a_component_goes_to_notepad(desktop, start, run, sample, folder):
+    path = sample("standard.ZLB")
+    start(path.name, title=title_of(path))
+    desktop.clipboard.put("-")
+    press_until(
+        desktop, lambda: (desktop.clipboard.get() or "").startswith("+TARSL"), "the component copied", *COPY_COMPONENT
+    )
+
+    note = folder / "note.txt"
+    note.write_bytes(b"-")
+    notepad = run("notepad", windows_path(note))
+    notepad.wait_main_window("note.txt - Notepad")
+    press_until(
+        desktop, lambda: note.read_bytes() not in (b"-", b""), "the text in its file", "Ctrl+a", "Ctrl+v", "Ctrl+s"
+    )
+    lines = note.read_bytes().decode().split("\r\n")
+    assert lines[:4] == ["+TARSL_DATA_V.1.0", "+COMPONENT", "+TARSL_LIB_V.1.0", "VER:82"]
+    assert lines[-2:] == ["-TARSL_DATA_V.1.0", ""]
+    assert "\n" not in "".join(lines), "every line ends as Windows ends lines"
+
+
+@pytest.mark.parametrize("line_end", ["\r\n", "\n"], ids=["crlf", "lf"])
+def test_a_component_comes_from_notepad(desktop, start, run, sample, folder, line_end):
+    note = folder / "note.txt"
+    note.write_bytes(b"\xff\xfe" + line_end.join(COMPONENT).encode("utf-16-le"))
+    notepad = run("notepad", windows_path(note))
+    notepad.wait_main_window("note.txt - Notepad")
+    desktop.clipboard.put("-")
+    press_until(desktop, lambda: "ΩΨ7" in (desktop.clipboard.get() or ""), "the text copied", "Ctrl+a", "Ctrl+c")
+
+    path = sample("connectors-and-supply.ZLB")
+    start(path.name, title=title_of(path))
+    wanted = "\n".join(COMPONENT[4:10])
+    press_until(
+        desktop, lambda: wanted in bytes_of(path).decode(), "the component saved", *PASTE_COMPONENT, "Ctrl+s"
+    )
+
+
+def test_closing_asks_about_changes(desktop, start, sample):
+    path = sample("standard.ZLB")
+    original = path.read_bytes()
+    mivo = start(path.name, title=title_of(path))
+    delete_a_pin(desktop)
+    desktop.close_window(title_of(path))
+    mivo.wait_window(QUESTION)
+    press_until(desktop, lambda: not desktop.has_window(QUESTION), "the question to go", "Esc")
+    assert mivo.process.poll() is None
+
+    desktop.close_window(title_of(path))
+    mivo.wait_window(QUESTION)
+    desktop.input.press("n")
+    assert mivo.wait_end() == 0
+    assert path.read_bytes() == original
+
+
+def test_the_end_of_the_session_asks_about_changes(desktop, start, run, sample):
+    path = sample("standard.ZLB")
+    mivo = start(path.name, title=title_of(path))
+    delete_a_pin(desktop)
+    session_end = run("wineboot", "--end-session")
+    mivo.wait_window(QUESTION)
+    desktop.input.press("Esc")
+    session_end.wait_end()
+    assert mivo.process.poll() is None, "the session goes on"
+    wait_until(lambda: not desktop.has_window(QUESTION), "the question to go")
+
+    run("wineboot", "--end-session")
+    mivo.wait_window(QUESTION)
+    desktop.input.press("y")
+    mivo.wait_end()
+    assert path.read_bytes().count(b"+PIN,") == sample("standard.ZLB").read_bytes().count(b"+PIN,") - 1
+
+
+def test_a_file_that_another_program_has_open_stays(desktop, start, run, sample):
+    path = sample("standard.ZLB")
+    original = path.read_bytes()
+    mivo = start(path.name, title=title_of(path))
+    delete_a_pin(desktop)
+    other = run("cmd", "/c", f"set /p line= < {windows_path(path)} && pause >> {windows_path(path)}")
+    wait_until(lambda: path.read_bytes() != original, "the other program to have the file open")
+    held = path.read_bytes()
+    mivo.take_focus(title_of(path))
+    press_until(desktop, lambda: desktop.has_window(QUESTION), "the message", "Ctrl+s")
+    assert path.read_bytes() == held
+    press_until(desktop, lambda: not desktop.has_window(QUESTION), "the message to go", "Enter")
+
+    other.process.stdin.close()
+    other.wait_end()
+    mivo.take_focus(title_of(path))
+    press_until(desktop, lambda: lacks_one_pin(path, original), "the saved file", "Ctrl+s")
+
+
+def test_the_language_library_beside_the_program_speaks(desktop, start, sample):
+    shutil.copy(BUILD / "translations/de/mivo_lang.dll", start.installed)
+    path = sample("standard.ZLB")
+    start(path.name, title=title_of(path))
+    press_until(desktop, lambda: desktop.has_window("Eigenschaften - Pin"), "the dialog in German", "Tab", "Enter")
+
+
+def test_the_window_keeps_its_size(desktop, start):
+    mivo = start()
+    desktop.maximise("Mivo")
+    wait_until(lambda: "cmdShow=3" in settings_in(start.installed), "the maximised window")
+    assert "Width=900\nHeight=700\n" in settings_in(start.installed)
+    desktop.close_window("Mivo")
+    assert mivo.wait_end() == 0
+
+    start(settings=None)
+    desktop.maximise("Mivo", on=False)
+    wait_until(lambda: "cmdShow=1" in settings_in(start.installed), "the restored window")
+    assert "Width=900\nHeight=700\n" in settings_in(start.installed)
