@@ -13,7 +13,6 @@
 
 #include "file_writer.h"
 #include "first_paint.h"
-#include "font_configuration.h"
 #include "lb_comp_name.h"
 #include "main_frame.h"
 #include "mivo_app.h"
@@ -60,10 +59,8 @@ int Open(const QStringList& arguments) {
 
 int main(int argc, char** argv) {
   mivo::ReportFileSizeLimitAsFailure();
-  mivo::FontConfiguration fonts;
   const QApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("mivo"));
-  fonts.Await();
   const QStringList arguments = QCoreApplication::arguments();
   const QString task = arguments.value(1);
   if (task == QLatin1String("start") && arguments.size() == 3) {
