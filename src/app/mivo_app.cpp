@@ -52,7 +52,6 @@ CMivoApp::CMivoApp(const SettingsFolders& folders)
 CMivoApp::~CMivoApp() = default;
 
 void CMivoApp::InitInstance(const QStringList& arguments) {
-  InstallFontSubstitutes();
   if (texts_.Translate(LoadLanguageLibrary(languageLibrary_))) TranslateToolkit();
 
   QCoreApplication::setApplicationVersion(ToQString(texts_.Text(StringId::Version)));
@@ -65,6 +64,7 @@ void CMivoApp::InitInstance(const QStringList& arguments) {
                                QLatin1Char('[') + fileName + QLatin1Char(']'));
   parser.process(arguments);
 
+  InstallFontSubstitutes();
   frame_ = std::make_unique<CMainFrame>(settings_, texts_);
   ShowFrame();
   const QString argument = parser.positionalArguments().value(0);
