@@ -79,8 +79,8 @@ class SRecordReader {
   /// Reports a finding at the field read last.
   void Report(FindingKind kind, std::u16string_view text);
 
-  /// The value of a name or text: up to its first NUL, which an escape can put into a field. Names
-  /// and texts never hold one, since everything behind it would be lost at the next save.
+  /// The value of a name or text in the field read last: up to its first NUL, which an escape can
+  /// put there. Names and texts never hold one: everything behind it would be lost at a save.
   [[nodiscard]] std::u16string_view TextValue(std::u16string_view value);
 
   /// Marks a record as open for as long as it lives, so that findings name the record around them.

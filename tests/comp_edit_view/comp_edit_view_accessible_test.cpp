@@ -10,17 +10,10 @@
 #include <vector>
 
 #include "comp_edit_view.h"
+#include "no_prompts.h"
 
 namespace mivo {
 namespace {
-
-class NoPrompts final : public PropertyPrompts {
- public:
-  std::optional<PinValues> AskPin(const PinValues&) override { return {}; }
-  std::optional<LineValues> AskLine(const LineValues&) override { return {}; }
-  std::optional<ShapeValues> AskShape(const ShapeValues&) override { return {}; }
-  std::optional<TextValues> AskText(const TextValues&) override { return {}; }
-};
 
 class AccessibleViewTest : public testing::Test {
  protected:

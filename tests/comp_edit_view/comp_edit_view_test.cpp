@@ -5,16 +5,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "no_prompts.h"
+
 namespace mivo {
 namespace {
-
-class NoPrompts final : public PropertyPrompts {
- public:
-  std::optional<PinValues> AskPin(const PinValues& /*values*/) override { return {}; }
-  std::optional<LineValues> AskLine(const LineValues& /*values*/) override { return {}; }
-  std::optional<ShapeValues> AskShape(const ShapeValues& /*values*/) override { return {}; }
-  std::optional<TextValues> AskText(const TextValues& /*values*/) override { return {}; }
-};
 
 /// The real view with real events: what the toolkit sends reaches the editor.
 class CompEditViewTest : public testing::Test {

@@ -9,17 +9,10 @@
 
 #include "colors.h"
 #include "comp_edit_view.h"
+#include "no_prompts.h"
 
 namespace mivo {
 namespace {
-
-class NoPrompts final : public PropertyPrompts {
- public:
-  std::optional<PinValues> AskPin(const PinValues&) override { return {}; }
-  std::optional<LineValues> AskLine(const LineValues&) override { return {}; }
-  std::optional<ShapeValues> AskShape(const ShapeValues&) override { return {}; }
-  std::optional<TextValues> AskText(const TextValues&) override { return {}; }
-};
 
 QColor ToQColor(Color color) {
   return QColor::fromRgb(color.red, color.green, color.blue);

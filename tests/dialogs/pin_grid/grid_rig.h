@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "no_prompts.h"
 #include "pin_grid.h"
 
 namespace mivo {
@@ -34,14 +35,6 @@ class GridHost final : public ViewHost {
   }
   void TogglePinGrid() override {}
   [[nodiscard]] bool IsPinGridShown() const override { return true; }
-};
-
-class NoPrompts final : public PropertyPrompts {
- public:
-  [[nodiscard]] std::optional<PinValues> AskPin(const PinValues&) override { return {}; }
-  [[nodiscard]] std::optional<LineValues> AskLine(const LineValues&) override { return {}; }
-  [[nodiscard]] std::optional<ShapeValues> AskShape(const ShapeValues&) override { return {}; }
-  [[nodiscard]] std::optional<TextValues> AskText(const TextValues&) override { return {}; }
 };
 
 class TestClipboard final : public TextClipboard {
