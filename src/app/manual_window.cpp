@@ -43,7 +43,7 @@ void NameHeadings(QTextDocument& document) {
 
 QString FindManual(const QString& programFolder) {
   for (const char* const place :
-       {"../share/doc/mivo/manual.md", "doc/manual.md", "../../docs/manual.md"}) {
+       {"../../share/doc/mivo/manual.md", "doc/manual.md", "../../docs/manual.md"}) {
     const QFileInfo file(programFolder + QLatin1Char('/') + QLatin1String(place));
     if (file.isFile()) return file.canonicalFilePath();
   }

@@ -85,7 +85,7 @@ TEST_P(ManualPlaceTest, IsFound) {
 }
 
 INSTANTIATE_TEST_SUITE_P(InstalledUnpackedBuilt, ManualPlaceTest,
-                         testing::Values("../share/doc/mivo/manual.md", "doc/manual.md",
+                         testing::Values("../../share/doc/mivo/manual.md", "doc/manual.md",
                                          "../../docs/manual.md"));
 
 class ManualWindowTest : public FrameTest {

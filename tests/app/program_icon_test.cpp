@@ -1,13 +1,18 @@
-// The icon that the Windows executable carries is the one that the program draws for its windows.
-// UPDATE_GOLDENS=1 writes packaging/windows/mivo.ico anew.
+// The icons that are packed are the one that the program draws for its windows. UPDATE_GOLDENS=1
+// writes packaging/windows/mivo.ico and packaging/linux/icons anew.
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QImage>
+#include <QPainter>
+#include <QSvgGenerator>
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -17,6 +22,14 @@
 
 namespace mivo {
 namespace {
+
+bool IsToBeUpdated() {
+  return std::getenv("UPDATE_GOLDENS") != nullptr;
+}
+
+QImage Picture(const QIcon& icon, int side) {
+  return icon.pixmap(QSize(side, side), 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
+}
 
 /// A number of an icon file: little-endian.
 void Append(std::string& bytes, std::uint32_t number, int size) {
@@ -51,9 +64,7 @@ std::string IconFile(const QIcon& icon) {
   Append(directory, static_cast<std::uint32_t>(sides.size()), 2);
   std::string images;
   for (const int side : sides) {
-    const QImage image =
-        icon.pixmap(QSize(side, side), 1.0).toImage().convertToFormat(QImage::Format_ARGB32);
-    const std::string bitmap = Bitmap(image);
+    const std::string bitmap = Bitmap(Picture(icon, side));
     Append(directory, static_cast<std::uint32_t>(side), 1);
     Append(directory, static_cast<std::uint32_t>(side), 1);
     Append(directory, 0, 2);
@@ -66,12 +77,52 @@ std::string IconFile(const QIcon& icon) {
   return directory + images;
 }
 
+std::string ScalableIcon(const QIcon& icon) {
+  constexpr QRect kBox(0, 0, 48, 48);
+  QBuffer file;
+  QSvgGenerator generator;
+  generator.setOutputDevice(&file);
+  generator.setSize(kBox.size());
+  generator.setViewBox(kBox);
+  generator.setTitle(QStringLiteral("Mivo"));
+  generator.setDescription(QString());
+  QPainter painter(&generator);
+  icon.paint(&painter, kBox);
+  painter.end();
+  return file.data().toStdString();
+}
+
+QString PathOfIcon(const char* folder, const char* type) {
+  const QString path = QStringLiteral(MIVO_ICONS "/%1/apps/mivo.%2").arg(folder, type);
+  if (IsToBeUpdated()) QDir().mkpath(QFileInfo(path).path());
+  return path;
+}
+
 TEST(ProgramIcon, IsTheIconOfTheWindowsExecutable) {
   const std::string drawn = IconFile(ProgramIcon());
-  if (std::getenv("UPDATE_GOLDENS") != nullptr) {
-    std::ofstream(MIVO_ICON, std::ios::binary) << drawn;
-  }
+  if (IsToBeUpdated()) std::ofstream(MIVO_ICON, std::ios::binary) << drawn;
   EXPECT_TRUE(BytesOf(MIVO_ICON) == drawn) << "UPDATE_GOLDENS=1 draws it anew";
+}
+
+class DesktopIconTest : public testing::TestWithParam<int> {};
+
+TEST_P(DesktopIconTest, IsTheProgramIcon) {
+  const int side = GetParam();
+  const std::string folder = std::to_string(side) + "x" + std::to_string(side);
+  const QString path = PathOfIcon(folder.c_str(), "png");
+  const QImage drawn = Picture(ProgramIcon(), side);
+  if (IsToBeUpdated()) drawn.save(path);
+  const QImage packed = QImage(path).convertToFormat(QImage::Format_ARGB32);
+  EXPECT_TRUE(packed == drawn) << path.toStdString() << ": UPDATE_GOLDENS=1 draws it anew";
+}
+
+INSTANTIATE_TEST_SUITE_P(Sides, DesktopIconTest, testing::Values(16, 22, 24, 32, 48, 64, 128, 256));
+
+TEST(ProgramIcon, IsTheScalableIconOfTheDesktop) {
+  const std::filesystem::path path = PathOfIcon("scalable", "svg").toStdString();
+  const std::string drawn = ScalableIcon(ProgramIcon());
+  if (IsToBeUpdated()) std::ofstream(path, std::ios::binary) << drawn;
+  EXPECT_EQ(BytesOf(path), drawn) << "UPDATE_GOLDENS=1 draws it anew";
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ import pytest
 
 from driver.desktop import Desktop
 from driver.mivo import Mivo
+from driver.process import start_process
 from driver.texts import Texts
 
 PROGRAM = Path(os.environ.get("MIVO_PROGRAM", "build/bin/mivo")).resolve()
@@ -81,8 +82,14 @@ def start(desktop, folder, language, texts, watchers, request):
             home.chmod(0o700)
         if settings is not None:
             (folder / "MIVO.INI").write_text(settings)
-        program = [installed / PROGRAM.name, *arguments]
-        mivo = Mivo(desktop, texts, program, folder, desktop.environment(home), user)
+        program = [str(part) for part in (installed / PROGRAM.name, *arguments)]
+        credentials = {"user": user.pw_uid, "group": user.pw_gid, "extra_groups": []} if user else {}
+        log = folder / f"mivo-{len(started)}.log"
+        with open(log, "wb") as said:
+            process = start_process(
+                program, cwd=folder, env=desktop.environment(home), stdout=said, stderr=said, **credentials
+            )
+        mivo = Mivo(desktop, texts, process, log)
         mivo.watchers = watchers
         started.append(mivo)
         return mivo

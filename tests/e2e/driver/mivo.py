@@ -5,7 +5,6 @@ from functools import cached_property
 
 from .control import Control
 from .dialog import Dialog
-from .process import start_process
 from .waiting import Gone, wait_for, wait_until
 
 DIALOG_ROLES = ("dialog", "alert message", "frame", "window")
@@ -17,19 +16,16 @@ def items_of(menu):
 
 
 class Mivo:
-    """Starts the program and works with it as its user does."""
+    """Works with a started program as its user does."""
 
-    def __init__(self, desktop, texts, command, folder, environment, user=None):
+    def __init__(self, desktop, texts, process, log):
+        """`log` is the file that holds what the program says."""
         self.desktop = desktop
         self.texts = texts
         self.input = desktop.input
         self.watchers = []  # called with this and every dialog that a story opens
-        self.log = folder / f"mivo-{len(list(folder.glob('mivo-*.log')))}.log"
-        credentials = {"user": user.pw_uid, "group": user.pw_gid, "extra_groups": []} if user else {}
-        with open(self.log, "wb") as log:
-            self.process = start_process(
-                [str(part) for part in command], cwd=folder, env=environment, stdout=log, stderr=log, **credentials
-            )
+        self.process = process
+        self.log = log
         self.application = wait_until(self._application, "the program to show its controls")
         self.frame = wait_until(lambda: self._window(self._is_frame), "the window of the program")
         self.wait_active_or_ended()
