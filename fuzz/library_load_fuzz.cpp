@@ -1,5 +1,5 @@
-// Loads any bytes as a library or schematic. Whatever came of it can be saved and loads again, with
-// as many names and components.
+// Loads any bytes as a library or schematic, in UTF-8 or the old code page. Whatever came of it can
+// be saved and loads again; unless a finding said so, it is then what it was.
 
 #include <string>
 
@@ -9,12 +9,15 @@
 namespace mivo {
 namespace {
 
-class IgnoringSink final : public FindingSink {
+class CheckingSink final : public FindingSink {
  public:
   void Report(const Finding& finding) override {
     Require(finding.line >= 1 && finding.column >= 1, "a finding has a place");
     Require(!MessageOf(finding.kind).empty(), "a finding has a message");
+    if (finding.kind == FindingKind::NotCanonical) saidToChange = true;
   }
+
+  bool saidToChange = false;  ///< by saving and loading again
 };
 
 std::string Saved(const SMivoDoc& library) {
@@ -28,12 +31,19 @@ std::string Saved(const SMivoDoc& library) {
 }  // namespace mivo
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  mivo::IgnoringSink sink;
-  mivo::SMivoDoc library;
-  const bool loaded = library.Load(mivo::InputBytes(data, size), u"fuzz.ZLB", &sink);
-  mivo::Require(library.Path().has_value() == loaded, "only a load that succeeded sets the path");
+  using namespace mivo;
+  CheckingSink sink;
+  SMivoDoc library;
+  const bool loaded = library.Load(InputBytes(data, size), u"fuzz.ZLB", &sink);
+  Require(library.Path().has_value() == loaded, "only a load that succeeded sets the path");
+  for (const auto& entry : library.Names().Entries()) {
+    const NameEntry* const found = library.Names().Find(entry->Name());
+    Require(found != nullptr && found->Name() == entry->Name(), "every name is found");
+  }
 
-  mivo::SMivoDoc again;
-  mivo::Require(again.Load(mivo::Saved(library), u"again.ZLB", &sink), "what was saved loads");
+  const std::string saved = Saved(library);
+  SMivoDoc again;
+  Require(again.Load(saved, u"again.ZLB"), "what was saved loads");
+  Require(sink.saidToChange || Saved(again) == saved, "what was saved and loaded is what it was");
   return 0;
 }
