@@ -1,11 +1,15 @@
 #include "frame_prompts.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QPushButton>
 #include <QUrl>
+#include <QWindow>
 #include <array>
+#include <chrono>
 #include <utility>
 
 #include "about_dlg.h"
@@ -31,6 +35,18 @@ constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonT
     {QMessageBox::Yes, dialog_text::kYes},
     {QMessageBox::No, dialog_text::kNo},
 }};
+
+/// Asks with a box in the middle of the frame. At the start the window system may not have told yet
+/// where the frame is.
+int AskOver(const QWidget& frame, QMessageBox& box) {
+  using namespace std::chrono_literals;
+  const QDeadlineTimer patience(1s);
+  const QWindow* const window = frame.windowHandle();
+  while (frame.isVisible() && !window->isExposed() && !patience.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+  }
+  return box.exec();
+}
 
 }  // namespace
 
@@ -81,7 +97,7 @@ int DialogPrompts::Ask(QMessageBox::Icon icon, StringId message,
   for (const auto& [button, text] : kButtonTexts) {
     if (box.button(button) != nullptr) box.button(button)->setText(ToQString(texts_.Text(text)));
   }
-  return box.exec();
+  return AskOver(frame_, box);
 }
 
 std::optional<CompPropertyValues> DialogPrompts::AskComponent(const CompPropertyValues& values) {
@@ -111,7 +127,7 @@ RecoveryAnswer DialogPrompts::AskRecovery(const QString& question) {
   const QAbstractButton* const remove = add(StringId::RecoveryRemove, QMessageBox::DestructiveRole);
   QPushButton* const later = add(StringId::RecoveryLater, QMessageBox::RejectRole);
   box.setEscapeButton(later);
-  box.exec();
+  AskOver(frame_, box);
   if (box.clickedButton() == restore) return RecoveryAnswer::Restore;
   return box.clickedButton() == remove ? RecoveryAnswer::Remove : RecoveryAnswer::Later;
 }

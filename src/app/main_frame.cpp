@@ -404,7 +404,13 @@ void CMainFrame::dragEnterEvent(QDragEnterEvent* event) {
 
 void CMainFrame::dropEvent(QDropEvent* event) {
   const QString path = DraggedPath(*event->mimeData());
-  if (!path.isEmpty() && MayLeaveLibrary()) Open(path);
+  if (path.isEmpty()) return;
+  // Only then: the program that the file comes from waits for this to return, not for an answer of
+  // the user.
+  const auto open = [this, path] {
+    if (QApplication::activeModalWidget() == nullptr && MayLeaveLibrary()) Open(path);
+  };
+  QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
 }  // namespace mivo

@@ -1,7 +1,7 @@
 #include "manual_window.h"
 
 #include <QFileInfo>
-#include <QImageReader>
+#include <QImage>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
@@ -39,6 +39,49 @@ void NameHeadings(QTextDocument& document) {
   }
 }
 
+/// Text with pictures, which become as wide as the text at most.
+class PicturedText final : public QTextBrowser {
+ public:
+  using QTextBrowser::QTextBrowser;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTextBrowser::resizeEvent(event);
+    FitPictures();
+  }
+
+ private:
+  void FitPictures() {
+    const int most = viewport()->width() - 2 * kMargin;
+    const qreal ratio = devicePixelRatioF();
+    QTextDocument& shown = *document();
+    // As one change: each for itself could bring a scroll bar, and with it another width to fit.
+    QTextCursor change(&shown);
+    change.beginEditBlock();
+    for (QTextBlock block = shown.begin(); block.isValid(); block = block.next()) {
+      for (auto part = block.begin(); !part.atEnd(); ++part) {
+        const QTextFragment fragment = part.fragment();
+        if (!fragment.charFormat().isImageFormat()) continue;
+        QTextImageFormat picture = fragment.charFormat().toImageFormat();
+        QImage image(source().resolved(QUrl(picture.name())).toLocalFile());
+        const int width = std::min(most, image.width());
+        if (width <= 0 || picture.width() == width) continue;
+        // The text's own way to scale leaves letters in the picture ragged.
+        image = image.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation);
+        image.setDevicePixelRatio(ratio);
+        shown.addResource(QTextDocument::ImageResource, QUrl(picture.name()), image);
+        picture.setWidth(width);
+        QTextCursor cursor(&shown);
+        cursor.setPosition(fragment.position());
+        cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(picture);
+        break;  // the block's parts are no longer those that are gone through
+      }
+    }
+    change.endEditBlock();
+  }
+};
+
 }  // namespace
 
 QString FindManual(const QString& programFolder) {
@@ -51,51 +94,25 @@ QString FindManual(const QString& programFolder) {
 }
 
 ManualWindow::ManualWindow(const TextTable& texts, const QString& file, QWidget* parent)
-    : QDialog(parent), browser_(new QTextBrowser(this)) {
+    : QDialog(parent) {
+  auto* const text = new PicturedText(this);
   setObjectName(QStringLiteral("manual"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(ToQString(texts.Text(StringId::ManualTitle)));
-  browser_->setObjectName(QStringLiteral("manualText"));
-  browser_->setAccessibleName(windowTitle());
-  browser_->setOpenExternalLinks(true);
-  browser_->document()->setDocumentMargin(kMargin);
-  browser_->viewport()->installEventFilter(this);
+  text->setObjectName(QStringLiteral("manualText"));
+  text->setAccessibleName(windowTitle());
+  text->setOpenExternalLinks(true);
+  text->document()->setDocumentMargin(kMargin);
   if (file.isEmpty()) {
-    browser_->setPlainText(ToQString(texts.Text(StringId::ManualMissing)));
+    text->setPlainText(ToQString(texts.Text(StringId::ManualMissing)));
   } else {
-    browser_->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
-    NameHeadings(*browser_->document());
+    text->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
+    NameHeadings(*text->document());
   }
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
-  layout->addWidget(browser_);
+  layout->addWidget(text);
   resize(kFirstSize);
-}
-
-bool ManualWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == browser_->viewport() && event->type() == QEvent::Resize) FitPictures();
-  return QDialog::eventFilter(watched, event);
-}
-
-void ManualWindow::FitPictures() {
-  const int most = browser_->viewport()->width() - 2 * kMargin;
-  QTextDocument& document = *browser_->document();
-  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-    for (auto part = block.begin(); !part.atEnd(); ++part) {
-      const QTextFragment fragment = part.fragment();
-      if (!fragment.charFormat().isImageFormat()) continue;
-      QTextImageFormat picture = fragment.charFormat().toImageFormat();
-      const QUrl source = browser_->source().resolved(QUrl(picture.name()));
-      const int width = std::min(most, QImageReader(source.toLocalFile()).size().width());
-      if (width <= 0 || picture.width() == width) continue;
-      picture.setWidth(width);
-      QTextCursor cursor(&document);
-      cursor.setPosition(fragment.position());
-      cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
-      cursor.setCharFormat(picture);
-      break;  // the block's parts are no longer those that are gone through
-    }
-  }
 }
 
 }  // namespace mivo

@@ -4,8 +4,6 @@
 #include <QDialog>
 #include <QString>
 
-class QTextBrowser;
-
 namespace mivo {
 
 class TextTable;
@@ -21,15 +19,6 @@ class ManualWindow final : public QDialog {
 
  public:
   ManualWindow(const TextTable& texts, const QString& file, QWidget* parent);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
- private:
-  /// Makes pictures that are wider than the text as wide as it.
-  void FitPictures();
-
-  QTextBrowser* browser_;
 };
 
 }  // namespace mivo

@@ -79,6 +79,18 @@ TEST_F(NameListTest, SelectedAliasMarksTheOwnNameAndTheOtherAliases) {
   EXPECT_GE(Red(3).left(), 10);
 }
 
+TEST_F(NameListTest, MarksAreLighterOnDark) {
+  QPalette colors = list_.palette();
+  colors.setColor(QPalette::Base, QColor(35, 38, 41));
+  list_.setPalette(colors);
+  ShowWithFocus();
+  list_.SelectRow(2);
+  const auto isLightRed = [](const QColor& color) {
+    return color.red() > 200 && color.green() > 80 && color.green() < 140;
+  };
+  EXPECT_FALSE(Extent(Row(0), isLightRed).isEmpty());
+}
+
 TEST_F(NameListTest, SelectedNameIsHighlightedWhileTheListHasTheFocus) {
   ShowWithFocus();
   list_.SelectRow(2);

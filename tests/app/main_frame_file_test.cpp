@@ -215,6 +215,7 @@ class SaveQuestionTest : public MainFrameFileTest, public testing::WithParamInte
         QCoreApplication::sendEvent(&Frame(), &enter);
         QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&Frame(), &drop);
+        QCoreApplication::sendPostedEvents(&Frame());
         return ListedNames() == "[other]";
       }
       case WayOut::Close:

@@ -136,6 +136,7 @@ TEST_F(ManualWindowTest, PicturesAreAsWideAsTheTextAtMost) {
     const std::vector<double> widths = PictureWidths(*text.document());
     ASSERT_GE(widths.size(), 4u);
     const double room = text.viewport()->width();
+    EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0);
     for (const double picture : widths) {
       EXPECT_LT(picture, room);
       EXPECT_GT(picture, std::min(room - 50, 600.0)) << "but no smaller than it has to be";

@@ -5,6 +5,12 @@ from test_saving import change, is_saved
 from driver.waiting import wait_until
 
 
+def is_in_the_middle(dialog, mivo):
+    """The desktop's frames around them may differ."""
+    (x, y), (frame_x, frame_y) = dialog.control.box.middle, mivo.frame.box.middle
+    return abs(x - frame_x) <= 20 and abs(y - frame_y) <= 40
+
+
 def test_unsaved_work_of_a_killed_program_is_restored(start, sample, folder):
     path = sample("connectors-and-supply.ZLB")
     original = path.read_bytes()
@@ -23,6 +29,7 @@ def test_unsaved_work_of_a_killed_program_is_restored(start, sample, folder):
     question = mivo.any_message()
     said = " ".join(label.name for label in question.control.all(role="label"))
     assert str(path) in said
+    assert is_in_the_middle(question, mivo), "as soon as the window is shown"
     question.close("Restore")
     mivo.wait_title(f"Mivo - {path}")
     assert path.read_bytes() == original

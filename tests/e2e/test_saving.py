@@ -7,26 +7,32 @@ import subprocess
 
 import pytest
 
+from driver.drag import FileDrag
+
 CANNOT_SAVE = "Cannnot save the document. Try saving as."
 
 
-def new(mivo):
+def new(mivo, _folder):
     mivo.press("Ctrl+n")
 
 
-def open_another(mivo):
+def open_another(mivo, _folder):
     mivo.press("Ctrl+o")
 
 
-def exit_by_menu(mivo):
+def drop_another(mivo, folder):
+    mivo.drop_file(folder / "flasher.ZSC", mivo.frame.box.middle)
+
+
+def exit_by_menu(mivo, _folder):
     mivo.menu("File", "Exit")
 
 
-def close_window(mivo):
+def close_window(mivo, _folder):
     mivo.desktop.close_window(mivo.title)
 
 
-WAYS_OUT = [new, open_another, exit_by_menu, close_window]
+WAYS_OUT = [new, open_another, drop_another, exit_by_menu, close_window]
 
 
 def change(mivo, text):
@@ -46,8 +52,9 @@ def wait_out(mivo, way_out, folder):
     if way_out is new:
         mivo.wait_title("Mivo")
         assert mivo.names == []
-    elif way_out is open_another:
-        mivo.file_dialog().enter_file(folder / "flasher.ZSC")
+    elif way_out in (open_another, drop_another):
+        if way_out is open_another:
+            mivo.file_dialog().enter_file(folder / "flasher.ZSC")
         mivo.wait_title(f"Mivo - {folder / 'flasher.ZSC'}")
     else:
         mivo.wait_end()
@@ -69,15 +76,15 @@ def test_cancelled_then_saved(start, sample, folder, way_out):
     original = path.read_bytes()
     mivo = start(path)
     change(mivo, "Changed")
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").close("Cancel")
     still_there(mivo, path, "Changed")
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").press("Esc")
     still_there(mivo, path, "Changed")
     assert path.read_bytes() == original
 
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").click("Yes")
     wait_out(mivo, way_out, folder)
     assert is_saved(path, "Changed")
@@ -90,7 +97,7 @@ def test_not_saved(start, sample, folder, way_out):
     original = path.read_bytes()
     mivo = start(path)
     change(mivo, "Changed")
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").click("No")
     wait_out(mivo, way_out, folder)
     assert path.read_bytes() == original
@@ -100,7 +107,7 @@ def test_not_saved(start, sample, folder, way_out):
 def test_without_changes_nothing_is_asked(start, sample, folder, way_out):
     sample("flasher.ZSC")
     mivo = start(sample("connectors-and-supply.ZLB"))
-    way_out(mivo)
+    way_out(mivo, folder)
     wait_out(mivo, way_out, folder)
 
 
@@ -111,11 +118,11 @@ def test_a_library_without_a_file(start, sample, folder, way_out):
     path = folder / "named at last.ZLB"
     mivo = start()
     change(mivo, "Changed")
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").click("Yes")
     mivo.file_dialog().press("Esc")
     assert mivo.title == "Mivo"
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").click("Yes")
     mivo.file_dialog().enter_file(path)
     wait_out(mivo, way_out, folder)
@@ -143,7 +150,7 @@ def test_a_folder_that_cannot_be_written(start, sample, folder, way_out, unprivi
 
     mivo = start(path, user=unprivileged)
     change(mivo, "Changed")
-    way_out(mivo)
+    way_out(mivo, folder)
     mivo.message("Save changes?").click("Yes")
     mivo.message(CANNOT_SAVE).close("OK")
     still_there(mivo, path, "Changed")
@@ -151,7 +158,7 @@ def test_a_folder_that_cannot_be_written(start, sample, folder, way_out, unprivi
     assert [each.name for each in locked.iterdir()] == [path.name]
 
     mivo.save_as(elsewhere / "saved.ZLB")
-    way_out(mivo)
+    way_out(mivo, folder)
     wait_out(mivo, way_out, folder)
     assert is_saved(elsewhere / "saved.ZLB", "Changed")
     locked.chmod(0o755)
@@ -177,7 +184,7 @@ def test_a_full_disk(start, sample, folder, small_disk):
     original = path.read_bytes()
     mivo = start(path)
     change(mivo, "Changed")
-    close_window(mivo)
+    close_window(mivo, folder)
     mivo.message("Save changes?").click("Yes")
     mivo.message(CANNOT_SAVE).close("OK")
     still_there(mivo, path, "Changed")
@@ -185,6 +192,23 @@ def test_a_full_disk(start, sample, folder, small_disk):
     assert [each.name for each in small_disk.iterdir()] == [path.name]
 
     mivo.save_as(folder / "saved.ZLB")
-    close_window(mivo)
+    close_window(mivo, folder)
     mivo.wait_end()
     assert is_saved(folder / "saved.ZLB", "Changed")
+
+
+def test_a_file_is_dropped_on_every_part(start, sample):
+    """Only what is one file of this computer is taken."""
+    path = sample("connectors-and-supply.ZLB")
+    mivo = start()
+    first, second = path.parent / "first.ZLB", path.parent / "second.ZLB"
+    shutil.copy(path, first)
+    shutil.copy(path, second)
+    parts = [mivo.frame.find(role="tool bar"), mivo.name_list, mivo.note_box, mivo.frame.find(role="status bar")]
+    for part, dropped in zip(parts, (first, second, first, second)):
+        mivo.drop_file(dropped, part.box.middle)
+        mivo.wait_title(f"Mivo - {dropped}")
+    drag = FileDrag(mivo.desktop.name, "https://example.org/first.ZLB")
+    assert not drag.enter()
+    drag.leave()
+    mivo.quit()

@@ -5,6 +5,7 @@ from functools import cached_property
 
 from .control import Control
 from .dialog import Dialog
+from .drag import FileDrag
 from .waiting import Gone, wait_for, wait_until
 
 DIALOG_ROLES = ("dialog", "alert message", "frame", "window")
@@ -199,10 +200,10 @@ class Mivo:
 
     @property
     def note(self):
-        return self._note.text
+        return self.note_box.text
 
     @cached_property
-    def _note(self):
+    def note_box(self):
         return self.frame.find(name=self.texts.first("Note of the component"), role="text")
 
     def choose(self, name):
@@ -216,6 +217,13 @@ class Mivo:
     def answer_file_dialog(self, path):
         dialog = self.file_dialog()
         dialog.enter_file(path)
+
+    def drop_file(self, path, place):
+        """Drags a file from another program to the place on the screen and lets go of it there."""
+        self.input.move(place)
+        drag = FileDrag(self.desktop.name, path.as_uri())
+        assert drag.enter(), "the window does not take the file"
+        drag.drop()
 
     def save_as(self, path):
         self.menu("File", "Save as...")
