@@ -72,10 +72,11 @@ void PrintRow(const char* what, double baseline, double measured) {
 }
 
 void MeasureStart() {
-  std::vector<ProcessCost> empty, word, mivo;
+  std::vector<ProcessCost> empty, word, parts, mivo;
   for (int round = 0; round < kStarts; ++round) {
     empty.push_back(RunMeasured({MIVO_BARE_WINDOW}));
     word.push_back(RunMeasured({MIVO_BARE_WINDOW, "word"}));
+    parts.push_back(RunMeasured({MIVO_BARE_WINDOW, "parts"}));
     mivo.push_back(RunMeasured({MIVO_WINDOW, "start", MIVO_SAMPLE_LIBRARY}));
   }
   std::printf("To the first painted window, median of %d starts each\n", kStarts);
@@ -84,6 +85,10 @@ void MeasureStart() {
   PrintRow("a window with two words, elapsed", baseline.elapsedSeconds,
            MedianCost(word).elapsedSeconds);
   PrintRow("a window with two words, processor", baseline.cpuSeconds, MedianCost(word).cpuSeconds);
+  PrintRow("a window with such parts, elapsed", baseline.elapsedSeconds,
+           MedianCost(parts).elapsedSeconds);
+  PrintRow("a window with such parts, processor", baseline.cpuSeconds,
+           MedianCost(parts).cpuSeconds);
   PrintRow("Mivo, elapsed", baseline.elapsedSeconds, MedianCost(mivo).elapsedSeconds);
   PrintRow("Mivo, processor", baseline.cpuSeconds, MedianCost(mivo).cpuSeconds);
 }

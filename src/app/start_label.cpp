@@ -1,7 +1,8 @@
 #include "start_label.h"
 
-#include <QLabel>
+#include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "qt_text.h"
 #include "text_table.h"
@@ -12,42 +13,39 @@ namespace {
 /// Dark grey on the white drawing area, where the theme's own colour may be white as well.
 const QColor kTextColor(64, 64, 64);
 constexpr int kMargin = 24;
+constexpr int kGap = 24;
 constexpr double kTitleSize = 1.5;  ///< times the size of the other text
+constexpr int kFlags = static_cast<int>(Qt::AlignHCenter) | static_cast<int>(Qt::TextWordWrap);
 
 }  // namespace
 
-StartLabel::StartLabel(const TextTable& texts, QWidget& area) : QWidget(&area) {
+StartLabel::StartLabel(const TextTable& texts, QWidget& area) : QLabel(&area) {
   setObjectName(QStringLiteral("startLabel"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  QPalette colors = palette();
-  // Labels on a text area are drawn in the colour of texts.
-  colors.setColor(QPalette::WindowText, kTextColor);
-  colors.setColor(QPalette::Text, kTextColor);
-  setPalette(colors);
-
-  auto* const layout = new QVBoxLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  const auto addLabel = [&](StringId text) {
-    auto* const label = new QLabel(ToQString(texts.Text(text)), this);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    layout->addWidget(label);
-    return label;
-  };
-  layout->addStretch();
-  QLabel* const title = addLabel(StringId::StartTitle);
-  layout->addSpacing(kMargin / 2);
-  addLabel(StringId::StartSteps);
-  layout->addStretch();
-
-  QFont font = title->font();
-  font.setPointSizeF(font.pointSizeF() * kTitleSize);
-  title->setFont(font);
-
+  setTextFormat(Qt::PlainText);
+  setText(ToQString(texts.Text(StringId::StartTitle)));
+  setAccessibleDescription(ToQString(texts.Text(StringId::StartSteps)));
   auto* const filling = new QVBoxLayout(&area);
   filling->setContentsMargins(0, 0, 0, 0);
   filling->addWidget(this);
+}
+
+void StartLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(kTextColor);
+  const QString title = text();
+  const QString steps = accessibleDescription();
+  QFont titleFont = font();
+  titleFont.setPointSizeF(titleFont.pointSizeF() * kTitleSize);
+  QRect room = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
+  const int titleHeight = QFontMetrics(titleFont).boundingRect(room, kFlags, title).height();
+  const int stepsHeight = fontMetrics().boundingRect(room, kFlags, steps).height();
+  room.setTop(room.top() + std::max(0, (room.height() - titleHeight - kGap - stepsHeight) / 2));
+  painter.setFont(titleFont);
+  painter.drawText(room, kFlags, title);
+  painter.setFont(font());
+  room.setTop(room.top() + titleHeight + kGap);
+  painter.drawText(room, kFlags, steps);
 }
 
 }  // namespace mivo

@@ -11,15 +11,11 @@ namespace {
 
 class StartLabelTest : public FrameTest {
  protected:
-  [[nodiscard]] QWidget& Label() {
-    return *Frame().findChild<QWidget*>(QStringLiteral("startLabel"));
+  [[nodiscard]] QLabel& Label() {
+    return *Frame().findChild<QLabel*>(QStringLiteral("startLabel"));
   }
   [[nodiscard]] std::string Text() {
-    std::string text;
-    for (const QLabel* const label : Label().findChildren<QLabel*>()) {
-      text += label->text().toStdString() + '\n';
-    }
-    return text;
+    return (Label().text() + QLatin1Char('\n') + Label().accessibleDescription()).toStdString();
   }
 };
 
