@@ -73,7 +73,7 @@ def start(desktop, folder, language, texts, watchers, request):
     request.node.started = started
     request.node.desktop = desktop
 
-    def start_program(*arguments, settings=SETTINGS, user=None):
+    def start_program(*arguments, settings=SETTINGS, user=None, environment=None):
         home = folder / "home"
         if not home.exists():
             home.mkdir()
@@ -87,7 +87,12 @@ def start(desktop, folder, language, texts, watchers, request):
         log = folder / f"mivo-{len(started)}.log"
         with open(log, "wb") as said:
             process = start_process(
-                program, cwd=folder, env=desktop.environment(home), stdout=said, stderr=said, **credentials
+                program,
+                cwd=folder,
+                env=desktop.environment(home) | (environment or {}),
+                stdout=said,
+                stderr=said,
+                **credentials,
             )
         mivo = Mivo(desktop, texts, process, log)
         mivo.watchers = watchers

@@ -83,6 +83,10 @@ class Control:
         return self._call("Text", "GetText", GLib.Variant("(ii)", (0, -1)))[0]
 
     @property
+    def value(self):
+        return self._property("Value", "CurrentValue")
+
+    @property
     def children(self):
         return [Control(self._bus, *child) for child in self._call("Accessible", "GetChildren")[0]]
 

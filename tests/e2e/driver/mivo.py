@@ -181,6 +181,11 @@ class Mivo:
     def _status_labels(self):
         return self.frame.find(role="status bar").all(role="label")
 
+    @cached_property
+    def progress_bar(self):
+        """Tells how far a long task has come; hidden most of the time."""
+        return self.frame.find(role="progress bar", showing=False)
+
     def wait_status(self, english):
         """Waits until the status bar says what is expected next."""
         wanted = self.texts.first(english)
