@@ -16,8 +16,11 @@ SessionEnd::SessionEnd(QWidget& /*window*/, std::function<bool(bool)> mayEnd)
       qApp, &QGuiApplication::commitDataRequest, watch_.get(),
       [mayEnd = std::move(mayEnd)](QSessionManager& session) {
         const bool mayAsk = session.allowsInteraction();
-        if (!mayEnd(mayAsk)) session.cancel();
-        if (mayAsk) session.release();
+        if (!mayEnd(mayAsk)) {
+          session.cancel();  // ends the asking as well; after a release it would begin another one
+        } else if (mayAsk) {
+          session.release();
+        }
       },
       Qt::DirectConnection);
 }
