@@ -124,7 +124,7 @@ def functions():
     width, height = timer.size
     timer = replace(
         timer,
-        drawing=(*frame(width, height), title(50, 5 * height, "555", size=16)),
+        drawing=(*frame(width, height), title(56, 50, "555", size=16)),
     )
     return [
         timer,
