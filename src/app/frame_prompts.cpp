@@ -2,10 +2,10 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 #include <QWindow>
 #include <array>
@@ -40,10 +40,15 @@ constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonT
 /// where the frame is.
 int AskOver(const QWidget& frame, QMessageBox& box) {
   using namespace std::chrono_literals;
-  const QDeadlineTimer patience(1s);
-  const QWindow* const window = frame.windowHandle();
-  while (frame.isVisible() && !window->isExposed() && !patience.hasExpired()) {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+  QTimer patience;
+  patience.setSingleShot(true);
+  patience.start(3s);
+  const auto isAwaited = [&frame] {
+    return frame.isVisible() && !frame.isMinimized() && !frame.windowHandle()->isExposed();
+  };
+  while (isAwaited() && patience.isActive()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::WaitForMoreEvents);
   }
   return box.exec();
 }
