@@ -6,6 +6,7 @@
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -18,6 +19,7 @@ namespace {
 
 constexpr QSize kFirstSize(760, 640);
 constexpr int kMargin = 12;
+constexpr int kCellPadding = 4;
 
 /// GitHub's name of a heading, which the links inside the manual use.
 QString AnchorOf(const QString& heading) {
@@ -36,6 +38,20 @@ void NameHeadings(QTextDocument& document) {
     name.setAnchor(true);
     name.setAnchorNames({AnchorOf(block.text())});
     cursor.mergeCharFormat(name);
+  }
+}
+
+/// Single lines between the cells, and room around what is in them.
+void RuleTables(QTextDocument& document, const QBrush& lines) {
+  for (QTextFrame* const frame : document.rootFrame()->childFrames()) {
+    auto* const table = qobject_cast<QTextTable*>(frame);
+    if (table == nullptr) continue;
+    QTextTableFormat format = table->format();
+    format.setBorderCollapse(true);
+    format.setBorderBrush(lines);
+    format.setCellPadding(kCellPadding);
+    format.setCellSpacing(0);
+    table->setFormat(format);
   }
 }
 
@@ -69,7 +85,8 @@ class PicturedText final : public QTextBrowser {
         // The text's own way to scale leaves letters in the picture ragged.
         image = image.scaledToWidth(qRound(width * ratio), Qt::SmoothTransformation);
         image.setDevicePixelRatio(ratio);
-        shown.addResource(QTextDocument::ImageResource, QUrl(picture.name()), image);
+        shown.addResource(QTextDocument::ImageResource,
+                          shown.baseUrl().resolved(QUrl(picture.name())), image);
         picture.setWidth(width);
         QTextCursor cursor(&shown);
         cursor.setPosition(fragment.position());
@@ -108,6 +125,7 @@ ManualWindow::ManualWindow(const TextTable& texts, const QString& file, QWidget*
   } else {
     text->setSource(QUrl::fromLocalFile(file), QTextDocument::MarkdownResource);
     NameHeadings(*text->document());
+    RuleTables(*text->document(), palette().mid());
   }
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins({});

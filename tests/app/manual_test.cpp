@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -113,16 +114,15 @@ TEST_F(ManualWindowTest, ShowsTheManualWithItsPictures) {
   window->close();
 }
 
-/// Widths of the pictures in the text.
-std::vector<double> PictureWidths(const QTextDocument& document) {
-  std::vector<double> widths;
+std::vector<QTextImageFormat> PicturesIn(const QTextDocument& document) {
+  std::vector<QTextImageFormat> pictures;
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
     for (auto part = block.begin(); !part.atEnd(); ++part) {
       const QTextCharFormat format = part.fragment().charFormat();
-      if (format.isImageFormat()) widths.push_back(format.toImageFormat().width());
+      if (format.isImageFormat()) pictures.push_back(format.toImageFormat());
     }
   }
-  return widths;
+  return pictures;
 }
 
 TEST_F(ManualWindowTest, PicturesAreAsWideAsTheTextAtMost) {
@@ -133,13 +133,16 @@ TEST_F(ManualWindowTest, PicturesAreAsWideAsTheTextAtMost) {
     window->resize(width, 600);
     QTextBrowser& text = TextOf(*window);
     ASSERT_TRUE(WaitUntil([&] { return text.width() == width; }));
-    const std::vector<double> widths = PictureWidths(*text.document());
-    ASSERT_GE(widths.size(), 4u);
-    const double room = text.viewport()->width();
     EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0);
-    for (const double picture : widths) {
-      EXPECT_LT(picture, room);
-      EXPECT_GT(picture, std::min(room - 50, 600.0)) << "but no smaller than it has to be";
+    const std::vector<QTextImageFormat> pictures = PicturesIn(*text.document());
+    ASSERT_GE(pictures.size(), 4u);
+    const double room = text.viewport()->width();
+    for (const QTextImageFormat& picture : pictures) {
+      EXPECT_LT(picture.width(), room);
+      EXPECT_GT(picture.width(), std::min(room - 50, 600.0)) << "but no smaller than it has to be";
+      const QVariant image =
+          text.document()->resource(QTextDocument::ImageResource, QUrl(picture.name()));
+      EXPECT_EQ(image.value<QImage>().width(), picture.width()) << "not scaled when it is drawn";
     }
   }
   window->close();
