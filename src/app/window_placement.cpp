@@ -2,7 +2,6 @@
 
 #include <QGuiApplication>
 #include <QWidget>
-#include <QWindow>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -11,16 +10,24 @@
 namespace mivo {
 namespace {
 
+#ifdef Q_OS_WIN
 /// False as well for a window that Windows does not know, which tests draw off screen.
 bool IsPlacedByWindows() {
   return QGuiApplication::platformName() == QLatin1String("windows");
 }
 
-QSize FrameOf(QWidget& window) {
-  window.winId();  // only a window that exists has a frame
-  const QMargins margins = window.windowHandle()->frameMargins();
-  return {margins.left() + margins.right(), margins.top() + margins.bottom()};
+/// What Windows counts in beside the window's content. The toolkit's margins would lack the borders
+/// that are not drawn.
+QSize FrameOf(const QWidget& window) {
+  const HWND handle = reinterpret_cast<HWND>(window.winId());
+  RECT outer{};
+  RECT inner{};
+  GetWindowRect(handle, &outer);
+  GetClientRect(handle, &inner);
+  return {static_cast<int>(outer.right - outer.left - inner.right),
+          static_cast<int>(outer.bottom - outer.top - inner.bottom)};
 }
+#endif
 
 }  // namespace
 
@@ -43,13 +50,20 @@ WindowPlacement PlacementOf(const QWidget& window) {
   return placement;
 }
 
-QSize PlacedSize(QWidget& window, QSize inner) {
-  return IsPlacedByWindows() ? (inner + FrameOf(window)) * window.devicePixelRatio() : inner;
+QSize PlacedSize([[maybe_unused]] const QWidget& window, QSize inner) {
+#ifdef Q_OS_WIN
+  if (IsPlacedByWindows()) return inner * window.devicePixelRatio() + FrameOf(window);
+#endif
+  return inner;
 }
 
-QSize InnerSize(QWidget& window, QSize placed) {
-  if (!IsPlacedByWindows()) return placed;
-  return (placed / window.devicePixelRatio() - FrameOf(window)).expandedTo({1, 1});
+QSize InnerSize([[maybe_unused]] const QWidget& window, QSize placed) {
+#ifdef Q_OS_WIN
+  if (IsPlacedByWindows()) {
+    return ((placed - FrameOf(window)) / window.devicePixelRatio()).expandedTo({1, 1});
+  }
+#endif
+  return placed;
 }
 
 }  // namespace mivo

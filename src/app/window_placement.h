@@ -24,8 +24,8 @@ struct WindowPlacement {
 [[nodiscard]] WindowPlacement PlacementOf(const QWidget& window);
 
 /// The size that a placement of `window` has when its inside has `inner`, and the other way round.
-[[nodiscard]] QSize PlacedSize(QWidget& window, QSize inner);
-[[nodiscard]] QSize InnerSize(QWidget& window, QSize placed);
+[[nodiscard]] QSize PlacedSize(const QWidget& window, QSize inner);
+[[nodiscard]] QSize InnerSize(const QWidget& window, QSize placed);
 
 }  // namespace mivo
 
