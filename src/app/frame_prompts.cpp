@@ -23,8 +23,9 @@
 namespace mivo {
 namespace {
 
-const QString kLibraryFiles = QStringLiteral(" (*.zlb *.ZLB)");
-const QString kSchematicFiles = QStringLiteral(" (*.zsc *.ZSC)");
+// Windows gives a new file the first extension.
+const QString kLibraryFiles = QStringLiteral(" (*.ZLB *.zlb)");
+const QString kSchematicFiles = QStringLiteral(" (*.ZSC *.zsc)");
 
 // The texts name the files themselves.
 constexpr QFileDialog::Option kFilterTexts = QFileDialog::HideNameFilterDetails;
