@@ -50,9 +50,10 @@ std::u16string Decoded(const char* text) {
 }  // namespace
 
 TextTable::Translation LoadLanguageLibrary(const std::filesystem::path& path) {
-  // A path without a folder would be searched for all over the system, and a pipe waited for.
+  // A path without a folder would be searched for all over the system, and a pipe waited for. Not
+  // is_absolute, which on Windows knows no server.
   std::error_code error;
-  if (!path.is_absolute() || !std::filesystem::is_regular_file(path, error)) return nullptr;
+  if (!path.has_root_directory() || !std::filesystem::is_regular_file(path, error)) return nullptr;
   const MivoLanguageFunction function = LoadFunction(path);
   if (function == nullptr) return nullptr;
   return [function](TextId id) {

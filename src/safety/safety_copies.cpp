@@ -60,8 +60,8 @@ std::vector<Copy> CopiesIn(const fs::path& folder) {
 fs::path NameOf(const fs::path& file, std::uint64_t number, SafetyCopies::Kind kind) {
   std::string digits = std::to_string(number);
   digits.insert(0, kDigits - std::min(kDigits, digits.size()), '0');
-  // Some room for the front, so that a name of the greatest length can be kept too.
-  constexpr std::size_t kLongestName = 200;
+  // Short enough for the front to fit too, and on Windows for the whole path to be of usual length.
+  constexpr std::size_t kLongestName = 80;
   const fs::path::string_type name = file.filename().native();
   fs::path result(kind == SafetyCopies::Kind::Original ? kOriginal : std::string_view());
   result += digits + "-";

@@ -21,7 +21,8 @@ constexpr const char* kFolderName = "mivo";
 fs::path FolderFromEnvironment(const wchar_t* name) {
   const wchar_t* const value = _wgetenv(name);
   const fs::path folder = value != nullptr ? fs::path(value) : fs::path();
-  return folder.is_absolute() ? folder : fs::path();
+  // Not is_absolute, which knows no server.
+  return folder.has_root_directory() ? folder : fs::path();
 }
 
 fs::path StateHome() {
@@ -82,7 +83,10 @@ fs::path NameForPath(const fs::path& path) {
   std::u16string text = TextFromPath(whole);
   text.erase(0, text.size() - std::min(text.size(), kReadable));
   for (char16_t& character : text) {
-    if (character == u'/' || character == u'\\' || character == u':') character = u'%';
+    // What separates folders, and what only a path of Windows for special uses contains.
+    if (std::u16string_view(u"/\\:?").find(character) != std::u16string_view::npos) {
+      character = u'%';
+    }
   }
   const fs::path::string_type& native = whole.native();
   const std::string_view bytes(reinterpret_cast<const char*>(native.data()),

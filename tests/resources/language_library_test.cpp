@@ -43,6 +43,17 @@ TEST(LanguageLibrary, HandsOnTheNumberOfTheControl) {
   EXPECT_EQ(translation({static_cast<TextKind>(4), 144, 1016}), u"");
 }
 
+#ifdef _WIN32
+TEST(LanguageLibrary, MayBeOnAServer) {
+  const fs::path share = L"\\\\mivo-test\\share";  // of packaging/windows/wine-environment
+  if (!fs::exists(share)) GTEST_SKIP() << "there is no such server";
+  const fs::path copy = share / kLanguageLibraryName;
+  fs::remove(copy);
+  fs::copy_file(LibraryPath("good"), copy);
+  EXPECT_TRUE(LoadLanguageLibrary(copy));
+}
+#endif
+
 TEST(LanguageLibrary, TextThatItLacksIsTheProgramsOwn) {
   const TextTable texts = TextsWith("good");
   EXPECT_EQ(texts.Text(StringId::CannotUndo), u"You can't undo this command.\nContinue?");

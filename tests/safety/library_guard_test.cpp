@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -10,7 +11,6 @@
 
 #include "child_process.h"
 #include "open_doc.h"
-#include "unprivileged_user.h"
 
 namespace mivo {
 namespace {
@@ -204,6 +204,7 @@ TEST_F(LibraryGuardTest, TheFileIsFreeOnceTheFirstProgramLeavesIt) {
   EXPECT_FALSE(second.IsOpenElsewhere());
 }
 
+#ifndef _WIN32  // there is no fork
 TEST_F(LibraryGuardTest, AKilledProgramIsNoObstacle) {
   ASSERT_EQ(RunInChild([&]() -> std::string {
               Open();
@@ -214,6 +215,7 @@ TEST_F(LibraryGuardTest, AKilledProgramIsNoObstacle) {
   Open();
   EXPECT_FALSE(guard_.IsOpenElsewhere());
 }
+#endif
 
 TEST_F(LibraryGuardTest, TheFileThatASaveMovesToCountsAsOpen) {
   Open();
@@ -229,6 +231,7 @@ TEST_F(LibraryGuardTest, TheFileThatASaveMovesToCountsAsOpen) {
 
 // --- Recovery ------------------------------------------------------------------------------------
 
+#ifndef _WIN32  // there is no fork
 TEST_F(LibraryGuardTest, ARestoredLibraryIsInARecoveryFileOfItsOwn) {
   Open();
   open_.Add(u"new");
@@ -247,6 +250,7 @@ TEST_F(LibraryGuardTest, ARestoredLibraryIsInARecoveryFileOfItsOwn) {
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(TextOf(found[0].library.doc), TextOf(open_.View()));
 }
+#endif
 
 TEST_F(LibraryGuardTest, ARestoredLibraryKnowsWhatItsFileHeld) {
   EXPECT_TRUE(guard_.Restored(open_.View(), {Path(), IdentityOf(kParts)}));

@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "temp_folder.h"
-#include "unprivileged_user.h"
 
-#include "temp_folder.h"
+#ifndef _WIN32
+#include "unprivileged_user.h"
+#endif
 
 namespace mivo {
 namespace {
@@ -69,7 +70,9 @@ TEST_F(SettingsFileTest, FileThatCannotBeReadGivesDefaultsAndIsNotCreated) {
 TEST(ReadOnlySettingsFile, KeepsTheChangeInMemory) {
   const TempFolder folder;
   const fs::path path = folder.Put("MIVO.INI", "[A]\r\nk=1\r\n");
+#ifndef _WIN32  // nobody there is above what is read-only
   const UnprivilegedUser user;
+#endif
   fs::permissions(path, fs::perms::owner_read);
   fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
   SettingsFile settings(path);
@@ -78,6 +81,7 @@ TEST(ReadOnlySettingsFile, KeepsTheChangeInMemory) {
   fs::permissions(folder.Path(), fs::perms::owner_all);
   EXPECT_EQ(BytesOf(path), "[A]\r\nk=1\r\n");
   EXPECT_EQ(folder.Names(), std::vector<std::string>{"MIVO.INI"});
+  fs::permissions(path, fs::perms::owner_all);
 }
 
 TEST_F(SettingsFileTest, HugeFileIsNoSettingsFile) {
