@@ -68,6 +68,7 @@ Section "Mivo" SectionMivo
   File "${STAGE}\mivo.exe"
   File "${STAGE}\mivo-cli.exe"
   File "${STAGE}\README.txt"
+  File /r "${STAGE}\doc"
   File /r "${STAGE}\licences"
   File /r "${STAGE}\samples"
 
@@ -101,6 +102,7 @@ SectionEnd
 Section /o "German texts" SectionGerman
   SetOutPath "$INSTDIR"
   File "${STAGE}\languages\de\mivo_lang.dll"
+  File "${STAGE}\languages\de\qtbase_de.qm"
 SectionEnd
 
 ; The settings stay: they are the user's. So does what the user put into the folder.
@@ -108,7 +110,9 @@ Section "Uninstall"
   Delete "$INSTDIR\mivo.exe"
   Delete "$INSTDIR\mivo-cli.exe"
   Delete "$INSTDIR\mivo_lang.dll"
+  Delete "$INSTDIR\qtbase_de.qm"
   Delete "$INSTDIR\README.txt"
+  RMDir /r "$INSTDIR\doc"
   RMDir /r "$INSTDIR\licences"
   RMDir /r "$INSTDIR\samples"
   Delete "$INSTDIR\uninstall.exe"

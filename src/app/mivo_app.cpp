@@ -79,8 +79,12 @@ void CMivoApp::InitInstance(const QStringList& arguments) {
 
 void CMivoApp::TranslateToolkit() {
   const QLocale language(ToQString(texts_.Text(StringId::LanguageCode)));
-  if (toolkitTexts_.load(language, QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+  const auto load = [&](const QString& folder) {
+    return toolkitTexts_.load(language, QStringLiteral("qtbase"), QStringLiteral("_"), folder);
+  };
+  // A toolkit that is a part of the program is installed nowhere.
+  if (load(ToQString(TextFromPath(languageLibrary_.parent_path()))) ||
+      load(QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&toolkitTexts_);
   }
 }
