@@ -7,6 +7,7 @@
 #include <regex>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "child_process.h"
 #include "libraries.h"
@@ -23,11 +24,6 @@ class Program : public testing::Test {
  protected:
   ProgramResult Run(const std::vector<std::string>& arguments, std::string_view input = {}) {
     return RunProgram(MIVO_CLI, arguments, folder_.Path(), input);
-  }
-
-  /// Runs a line of the shell in which $0 is the program.
-  ProgramResult RunShell(const std::string& line) {
-    return RunProgram("/bin/sh", {"-c", line, MIVO_CLI}, folder_.Path());
   }
 
   const TempFolder folder_;
@@ -55,6 +51,18 @@ TEST_F(Program, Converts) {
   EXPECT_EQ(result.output + result.errors, "");
   EXPECT_EQ(BytesOf(folder_ / "a.ZLB"), LibraryOf(ComponentRecord("R") + ComponentRecord("R(1)")));
   EXPECT_THAT(folder_.Names(), ElementsAre("a.ZLB", "a.ZSC"));
+}
+
+TEST_F(Program, ConvertsFilesOfAnyName) {
+  folder_.Put("in.ZSC", kSchematic);
+  std::filesystem::rename(folder_ / "in.ZSC",
+                          folder_.Path() / u8"St\u00FCck \u2126 \U0001F600.ZSC");
+  const ProgramResult result =
+      Run({"convert", "St\u00FCck \u2126 \U0001F600.ZSC", "\u0416\u03A9.ZLB"});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.output + result.errors, "");
+  EXPECT_EQ(BytesOf(folder_.Path() / u8"\u0416\u03A9.ZLB"),
+            LibraryOf(ComponentRecord("R") + ComponentRecord("R(1)")));
 }
 
 TEST_F(Program, ConvertsFromStandardInputToStandardOutput) {
@@ -92,31 +100,6 @@ TEST_F(Program, TellsItsVersion) {
   EXPECT_EQ(Run({"--version"}).output, "mivo-cli 0.84.00\n");
 }
 
-TEST_F(Program, AFullStandardOutputIsAFailure) {
-  folder_.Put("a.ZLB", kGoodLibrary);
-  for (const char* command : {"list a.ZLB", "list --json a.ZLB", "convert a.ZLB -", "--help"}) {
-    const ProgramResult result = RunShell("\"$0\" " + std::string(command) + " >/dev/full");
-    EXPECT_EQ(result.exitCode, 2) << command;
-    EXPECT_EQ(result.errors, "mivo-cli: standard output: No space left on device\n") << command;
-  }
-}
-
-TEST_F(Program, AClosedStandardInputIsAFailure) {
-  const ProgramResult result = RunShell("\"$0\" list - <&-");
-  EXPECT_EQ(result.exitCode, 2);
-  EXPECT_EQ(result.errors, "mivo-cli: standard input: Bad file descriptor\n");
-}
-
-TEST_F(Program, AFileThatReachesTheSizeLimitLeavesTheOldOne) {
-  folder_.Put("a.ZLB", LibraryOf(NumberedComponents(1000)));
-  folder_.Put("b.ZLB", "old");
-  const ProgramResult result = RunShell("ulimit -f 8; exec \"$0\" convert a.ZLB b.ZLB");
-  EXPECT_EQ(result.exitCode, 2);
-  EXPECT_EQ(result.errors, "mivo-cli: b.ZLB: File too large\n");
-  EXPECT_EQ(BytesOf(folder_ / "b.ZLB"), "old");
-  EXPECT_THAT(folder_.Names(), ElementsAre("a.ZLB", "b.ZLB"));
-}
-
 TEST_F(Program, FindsNothingWrongWithTheSamples) {
   int count = 0;
   for (const auto& entry : std::filesystem::directory_iterator(MIVO_SAMPLES)) {
@@ -137,9 +120,11 @@ std::set<std::string> OptionsIn(const std::string& text) {
 }
 
 TEST_F(Program, TheManualKnowsTheSameOptionsAsTheHelp) {
+  using Commands = std::vector<std::vector<std::string>>;
   std::string help;
-  for (const char* command : {"--help", "list --help", "convert --help", "check --help"}) {
-    help += RunShell("exec \"$0\" " + std::string(command)).output;
+  for (const std::vector<std::string>& command :
+       Commands{{"--help"}, {"list", "--help"}, {"convert", "--help"}, {"check", "--help"}}) {
+    help += Run(command).output;
   }
   // The manual writes a hyphen as \-, as the language of manual pages wants it.
   const std::string manual =
@@ -151,6 +136,45 @@ TEST_F(Program, TheManualKnowsTheSameOptionsAsTheHelp) {
 TEST_F(Program, TheManualIsOfThisVersion) {
   EXPECT_THAT(BytesOf(MIVO_CLI_MANUAL), testing::HasSubstr("\"mivo-cli 0.84.00\""));
 }
+
+#ifndef _WIN32
+
+// --- What takes a shell --------------------------------------------------------------------------
+
+class ProgramInShell : public Program {
+ protected:
+  /// Runs a line of the shell in which $0 is the program.
+  ProgramResult RunShell(const std::string& line) {
+    return RunProgram("/bin/sh", {"-c", line, MIVO_CLI}, folder_.Path());
+  }
+};
+
+TEST_F(ProgramInShell, AFullStandardOutputIsAFailure) {
+  folder_.Put("a.ZLB", kGoodLibrary);
+  for (const char* command : {"list a.ZLB", "list --json a.ZLB", "convert a.ZLB -", "--help"}) {
+    const ProgramResult result = RunShell("\"$0\" " + std::string(command) + " >/dev/full");
+    EXPECT_EQ(result.exitCode, 2) << command;
+    EXPECT_EQ(result.errors, "mivo-cli: standard output: No space left on device\n") << command;
+  }
+}
+
+TEST_F(ProgramInShell, AClosedStandardInputIsAFailure) {
+  const ProgramResult result = RunShell("\"$0\" list - <&-");
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(result.errors, "mivo-cli: standard input: Bad file descriptor\n");
+}
+
+TEST_F(ProgramInShell, AFileThatReachesTheSizeLimitLeavesTheOldOne) {
+  folder_.Put("a.ZLB", LibraryOf(NumberedComponents(1000)));
+  folder_.Put("b.ZLB", "old");
+  const ProgramResult result = RunShell("ulimit -f 8; exec \"$0\" convert a.ZLB b.ZLB");
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(result.errors, "mivo-cli: b.ZLB: File too large\n");
+  EXPECT_EQ(BytesOf(folder_ / "b.ZLB"), "old");
+  EXPECT_THAT(folder_.Names(), ElementsAre("a.ZLB", "b.ZLB"));
+}
+
+#endif
 
 }  // namespace
 }  // namespace mivo
