@@ -66,7 +66,7 @@ class ScaledDisplayTest : public testing::TestWithParam<int> {
 
 TEST_P(ScaledDisplayTest, HasTheScaleThatWasAskedFor) {
   bool given = false;
-  const double asked = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&given);
+  const double asked = qEnvironmentVariable("MIVO_TEST_SCALE").toDouble(&given);
   EXPECT_DOUBLE_EQ(ratio_, given ? asked : 1.0);
 }
 
