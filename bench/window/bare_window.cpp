@@ -1,9 +1,10 @@
-// An empty window of the toolkit: what every program of its kind costs. Ends when it is painted.
+// An empty window of the toolkit: what every program of its kind costs.
 //
-//   bare_window          nothing in it
+//   bare_window          nothing in it; ends when it is painted
 //   bare_window word     a menu and a label of one word each: what the first letters cost
 //   bare_window parts    the parts of Mivo's window made of the toolkit's own widgets, with nothing
 //                        behind them: what any program with such a window pays
+//   bare_window stay     nothing in it; ends when it is closed, for those who look from outside
 
 #include <QApplication>
 #include <QDockWidget>
@@ -17,6 +18,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 
 #include "first_paint.h"
@@ -74,11 +76,13 @@ void AddParts(QMainWindow& window) {
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QMainWindow window;
+  window.setWindowTitle(QStringLiteral("Empty window"));
   window.resize(1100, 720);
-  const std::string_view filling = argc == 2 ? argv[1] : "";
-  if (filling == "word") AddWords(window);
-  if (filling == "parts") AddParts(window);
-  const mivo::bench::FirstPaint painted(window, [] { std::_Exit(0); });
+  const std::string_view task = argc == 2 ? argv[1] : "";
+  if (task == "word") AddWords(window);
+  if (task == "parts") AddParts(window);
+  std::optional<mivo::bench::FirstPaint> painted;
+  if (task != "stay") painted.emplace(window, [] { std::_Exit(0); });
   window.show();
   return QApplication::exec();
 }

@@ -4,15 +4,18 @@
 #include <QGuiApplication>
 #include <QWidget>
 
-// Last, since it defines words like None and Bool as macros.
+#if QT_CONFIG(xcb)  // last, since it defines words like None and Bool as macros
 #include <X11/Xlib.h>
+#endif
 
 namespace mivo::bench {
 namespace {
 
 void AwaitServer() {
+#if QT_CONFIG(xcb)
   auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 != nullptr) XSync(x11->display(), 0);
+#endif
 }
 
 }  // namespace
