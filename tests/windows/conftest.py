@@ -15,7 +15,7 @@ sys.path.insert(0, str(ROOT / "tests/e2e"))
 from driver.desktop import Desktop  # noqa: E402
 from driver.waiting import wait_until  # noqa: E402
 
-BUILD = Path(os.environ.get("MIVO_BUILD", ROOT / "build-windows"))
+BUILD = Path(os.environ.get("MIVO_BUILD", ROOT / "build-windows")).resolve()
 UNDER_WINE = ROOT / "packaging/windows/under-wine"
 REPORTS = BUILD / "tests/windows"
 
@@ -66,20 +66,31 @@ class Program:
         return self.process.wait(timeout=120)
 
 
+# Not that of the tests without a window: its desktop may have been started without a display.
+PREFIX = BUILD / "wine-window"
+
+
 @pytest.fixture(scope="session")
 def desktop():
+    """A display with a Windows of its own, as new."""
     path = Path(tempfile.mkdtemp(prefix="mivo-windows-desktop."))
     desktop = Desktop(path)
+    shutil.rmtree(PREFIX, ignore_errors=True)
+    subprocess.run([UNDER_WINE, "cmd", "/c", "exit"], env=environment_on(desktop), check=True)
     yield desktop
-    subprocess.run(["wineserver", "--kill"], env=environment_on(desktop), check=False)
-    subprocess.run(["wineserver", "--wait"], env=environment_on(desktop), check=False)
+    end_windows(desktop)
     desktop.end()
     shutil.rmtree(path)
 
 
 def environment_on(desktop):
-    # Not the prefix of the tests without a window: its desktop may have been started without a display.
-    return {**desktop.environment(), "WINEPREFIX": str(BUILD / "wine-window"), "LC_ALL": "C.UTF-8"}
+    return {**desktop.environment(), "WINEPREFIX": str(PREFIX), "LC_ALL": "C.UTF-8"}
+
+
+def end_windows(desktop):
+    """Ends all that runs under Wine, as the end of the power would."""
+    for what in ("--kill", "--wait"):
+        subprocess.run(["wineserver", what], env=environment_on(desktop), check=False)
 
 
 @pytest.fixture
@@ -104,12 +115,26 @@ def run(desktop, folder, request):
     yield run_program
     for program in started:
         if program.process.poll() is None:
-            subprocess.run(["wineserver", "--kill"], env=environment_on(desktop), check=False)
+            end_windows(desktop)
             program.process.wait(timeout=120)
 
 
 @pytest.fixture
-def start(run, folder):
+def user(desktop):
+    """The folder of the user in the Windows of the stories."""
+    return next(path for path in (PREFIX / "drive_c/users").iterdir() if path.name != "Public")
+
+
+@pytest.fixture
+def state(user):
+    """The folder in which Mivo keeps copies and what was not saved; empty."""
+    path = user / "AppData/Local/mivo"
+    shutil.rmtree(path, ignore_errors=True)
+    return path
+
+
+@pytest.fixture
+def start(run, folder, state):
     """Starts Mivo, installed in a folder of the story's own, and waits for its window."""
     installed = folder / "Jürgen Ж"
     installed.mkdir()
@@ -123,6 +148,7 @@ def start(run, folder):
         return mivo
 
     start_mivo.installed = installed
+    start_mivo.state = state
     return start_mivo
 
 

@@ -1,11 +1,10 @@
 """The installer, run silently: what it puts where, and what is left when Mivo is uninstalled."""
 
-import subprocess
-
 import pytest
 
-from conftest import BUILD, environment_on
+from conftest import BUILD, end_windows, windows_path
 from driver.waiting import wait_until
+from test_stories import press_until
 
 UNINSTALL = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Mivo"
 CLASSES = r"HKCU\Software\Classes"
@@ -17,13 +16,6 @@ def installer():
     if not found:
         pytest.skip("there is no installer; packaging/windows/pack makes one")
     return found[0]
-
-
-@pytest.fixture
-def user():
-    """The user's folder in the Wine prefix."""
-    users = BUILD / "wine-window/drive_c/users"
-    return next(path for path in users.iterdir() if path.name != "Public")
 
 
 @pytest.fixture
@@ -41,12 +33,13 @@ def registry(run):
 def test_it_installs_and_uninstalls(desktop, run, registry, installer, user):
     local = user / "AppData/Local"
     program = local / "Programs/Mivo"
+    sample = windows_path(program / "samples/standard.ZLB")
     settings = local / "HallvarnONLINE/MIVO.INI"
     shortcut = user / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Mivo.lnk"
     assert not program.exists() and not settings.exists()
 
     assert run(installer, "/S").wait_end() == 0
-    assert {"mivo.exe", "mivo-cli.exe", "README.txt", "licences", "samples"} <= {path.name for path in program.iterdir()}
+    assert {"mivo.exe", "mivo-cli.exe", "README.txt", "doc", "licences", "samples"} <= {path.name for path in program.iterdir()}
     assert not (program / "mivo_lang.dll").exists(), "English, unless asked for"
     assert shortcut.exists()
     assert settings.read_bytes() == b"\xff\xfe"
@@ -57,11 +50,18 @@ def test_it_installs_and_uninstalls(desktop, run, registry, installer, user):
     assert registry(UNINSTALL, "DisplayVersion") == "0.84.00"
 
     # It runs from there, with the settings of the user.
-    run(program / "mivo.exe", program / "samples/standard.ZLB")
-    wait_until(lambda: desktop.has_window_with("standard.ZLB"), "a sample to be opened by Mivo", limit=120)
+    mivo = run(program / "mivo.exe", sample)
+    mivo.wait_main_window(f"Mivo - {sample}")
     wait_until(lambda: "NoCheckPtnRectOnSave=1" in settings.read_bytes().decode("utf-16"), "the settings in use")
     assert not (program / "MIVO.INI").exists()
-    subprocess.run(["wineserver", "--kill"], env=environment_on(desktop), check=False)
+
+    # Its manual is there.
+    desktop.clipboard.put("-")
+    press_until(desktop, lambda: desktop.has_window("Mivo - manual"), "the manual", "F1")
+    press_until(desktop, lambda: desktop.clipboard.get() != "-", "the text copied", "Ctrl+a", "Ctrl+c")
+    assert desktop.clipboard.get().startswith("Mivo: the manual")
+    assert (program / "doc/images/window.png").exists()
+    end_windows(desktop)
 
     kept = settings.read_bytes()
     assert run(installer, "/S").wait_end() == 0

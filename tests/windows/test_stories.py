@@ -1,10 +1,11 @@
 """What people do with Mivo on Windows, in real windows with real keys."""
 
 import shutil
+from pathlib import Path
 
 import pytest
 
-from conftest import BUILD, windows_path
+from conftest import BUILD, PREFIX, end_windows, windows_path
 from driver.waiting import wait_until
 
 QUESTION = "Mivo"  # the title of every message
@@ -38,20 +39,22 @@ PASTE_COMPONENT = ("Alt+c", "Down", "Down", "Enter")
 
 def press_until(desktop, condition, what, *keys):
     """Presses the keys until they show: on a busy machine Wine loses some while it moves the focus."""
-    for attempt in range(6):
+    for attempt in range(4):
         desktop.input.press(*keys)
         try:
-            return wait_until(condition, what, limit=10)
+            return wait_until(condition, what, limit=15)
         except AssertionError:
-            if attempt == 5:
+            if attempt == 3:
                 raise
 
 
-def delete_a_pin(desktop):
-    """Waits for every step to show, so that nothing else overtakes the keys."""
-    for key in ("Tab", "Del"):
-        before = desktop.picture()
-        press_until(desktop, lambda: desktop.picture() != before, f"what {key} changes", key)
+def delete_a_pin(desktop, start):
+    """Done once it is in the recovery file: behind the library, the component as it is now."""
+
+    def is_recorded():
+        return any(bytes_of(file).count(b"-TARSL_LIB") == 2 for file in start.state.glob("recovery/*"))
+
+    press_until(desktop, is_recorded, "the change to be recorded", "Tab", "Del")
 
 
 def lacks_one_pin(path, original):
@@ -74,11 +77,26 @@ def settings_in(folder):
     return bytes_of(folder / "MIVO.INI").decode("utf-16").replace("\r\n", "\n")
 
 
-def test_a_change_is_saved_byte_by_byte(desktop, start, sample):
+@pytest.fixture(params=["here", "deep down", "on a server"])
+def library(request, sample, folder):
+    """A library, and how Windows calls it."""
     path = sample("standard.ZLB")
+    if request.param == "here":
+        return path, windows_path(path)
+    if request.param == "deep down":  # further than most paths of Windows may reach
+        deep = folder.joinpath(*["n" * 60] * 5)
+        deep.mkdir(parents=True)
+        path = path.rename(deep / path.name)
+        return path, windows_path(path)
+    share = PREFIX / "dosdevices/unc/mivo-test/share"  # of packaging/windows/wine-environment
+    return Path(shutil.copy(path, share)), rf"\\mivo-test\share\{path.name}"
+
+
+def test_a_change_is_saved_byte_by_byte(desktop, start, library):
+    path, name = library
     original = path.read_bytes()
-    start(path.name, title=title_of(path))
-    delete_a_pin(desktop)
+    start(name, title=f"Mivo - {name}")
+    delete_a_pin(desktop, start)
     press_until(desktop, lambda: lacks_one_pin(path, original), "the saved file", "Ctrl+s")
 
 
@@ -133,11 +151,28 @@ def test_a_component_comes_from_notepad(desktop, start, run, sample, folder, lin
     )
 
 
+def test_unsaved_work_of_a_killed_program_is_restored(desktop, start, run, sample):
+    path = sample("standard.ZLB")
+    original = path.read_bytes()
+    start(path.name, title=title_of(path))
+    delete_a_pin(desktop, start)
+    end_windows(desktop)
+    assert path.read_bytes() == original
+
+    run(start.installed / "mivo.exe")
+    wait_until(lambda: desktop.titles().count("Mivo") == 2, "the window and the question", limit=120)
+    press_until(desktop, lambda: desktop.has_window(title_of(path)), "the restored library", "r")
+    assert path.read_bytes() == original
+    press_until(desktop, lambda: lacks_one_pin(path, original), "the saved file", "Ctrl+s")
+    wait_until(lambda: not list(start.state.glob("recovery/*")), "nothing to be left to restore")
+    assert [copy.read_bytes() for copy in start.state.glob("copies/*/*")] == [original]
+
+
 def test_closing_asks_about_changes(desktop, start, sample):
     path = sample("standard.ZLB")
     original = path.read_bytes()
     mivo = start(path.name, title=title_of(path))
-    delete_a_pin(desktop)
+    delete_a_pin(desktop, start)
     desktop.close_window(title_of(path))
     mivo.wait_window(QUESTION)
     press_until(desktop, lambda: not desktop.has_window(QUESTION), "the question to go", "Esc")
@@ -153,7 +188,7 @@ def test_closing_asks_about_changes(desktop, start, sample):
 def test_the_end_of_the_session_asks_about_changes(desktop, start, run, sample):
     path = sample("standard.ZLB")
     mivo = start(path.name, title=title_of(path))
-    delete_a_pin(desktop)
+    delete_a_pin(desktop, start)
     session_end = run("wineboot", "--end-session")
     mivo.wait_window(QUESTION)
     desktop.input.press("Esc")
@@ -172,13 +207,13 @@ def test_a_file_that_another_program_has_open_stays(desktop, start, run, sample)
     path = sample("standard.ZLB")
     original = path.read_bytes()
     mivo = start(path.name, title=title_of(path))
-    delete_a_pin(desktop)
-    other = run("cmd", "/c", f"set /p line= < {windows_path(path)} && pause >> {windows_path(path)}")
-    wait_until(lambda: path.read_bytes() != original, "the other program to have the file open")
-    held = path.read_bytes()
+    delete_a_pin(desktop, start)
+    other = run(BUILD / "tests/hold.exe", windows_path(path))
+    wait_until(lambda: b"held" in other.log.read_bytes(), "the other program to have the file open")
     mivo.take_focus(title_of(path))
     press_until(desktop, lambda: desktop.has_window(QUESTION), "the message", "Ctrl+s")
-    assert path.read_bytes() == held
+    mivo.activate(QUESTION)
+    assert path.read_bytes() == original
     press_until(desktop, lambda: not desktop.has_window(QUESTION), "the message to go", "Enter")
 
     other.process.stdin.close()
@@ -194,15 +229,46 @@ def test_the_language_library_beside_the_program_speaks(desktop, start, sample):
     press_until(desktop, lambda: desktop.has_window("Eigenschaften - Pin"), "the dialog in German", "Tab", "Enter")
 
 
-def test_the_window_keeps_its_size(desktop, start):
-    mivo = start()
-    desktop.maximise("Mivo")
-    wait_until(lambda: "cmdShow=3" in settings_in(start.installed), "the maximised window")
-    assert "Width=900\nHeight=700\n" in settings_in(start.installed)
+def end(desktop, mivo):
     desktop.close_window("Mivo")
     assert mivo.wait_end() == 0
 
-    start(settings=None)
-    desktop.maximise("Mivo", on=False)
-    wait_until(lambda: "cmdShow=1" in settings_in(start.installed), "the restored window")
-    assert "Width=900\nHeight=700\n" in settings_in(start.installed)
+
+def test_the_window_keeps_its_size(desktop, start):
+    first = start()
+    before = settings_in(start.installed)
+    desktop.resize("Mivo", 750, 560)
+    wait_until(lambda: settings_in(start.installed) != before, "the new size in the settings")
+    wait_until(lambda: desktop.size("Mivo") == (750, 560), "the new size")
+    end(desktop, first)
+    kept = settings_in(start.installed)
+
+    second = start(settings=None)
+    wait_until(lambda: desktop.size("Mivo") == (750, 560), "the same size")
+    end(desktop, second)
+    assert settings_in(start.installed) == kept
+
+
+def test_a_maximised_window_keeps_its_normal_size(desktop, start):
+    maximised = "[WindowPosition]\r\nWidth=900\r\nHeight=700\r\ncmdShow=3\r\n"
+    end(desktop, start(settings=maximised))
+    assert maximised.replace("\r", "") in settings_in(start.installed)
+    mivo = start(settings=None)
+    wait_until(lambda: desktop.is_maximised("Mivo"), "the maximised window")
+    end(desktop, mivo)
+
+
+def test_the_window_is_as_large_as_the_screen_wants(desktop, start, run):
+    """Its size when nothing is kept in the settings, and with it all that is in it."""
+    mivo = start(settings="")
+    width, height = desktop.size("Mivo")
+    end(desktop, mivo)
+    run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d", "120", "/f").wait_end()
+    end_windows(desktop)  # it is read at the start
+    try:
+        start(settings="")
+        larger = desktop.size("Mivo")
+    finally:
+        run("reg", "delete", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/f").wait_end()
+        end_windows(desktop)
+    assert larger == (width * 120 // 96, height * 120 // 96)

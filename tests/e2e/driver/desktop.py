@@ -112,6 +112,10 @@ class Desktop:
         self._window(title).configure(width=width, height=height)
         self._display.sync()
 
+    def size(self, title):
+        size = self._window(title).get_geometry()
+        return size.width, size.height
+
     def close_window(self, title):
         """As the cross in the window's frame does."""
         window = self._window(title)
@@ -149,9 +153,9 @@ class Desktop:
     def has_window(self, title):
         return self._listed_window(title) is not None
 
-    def has_window_with(self, part):
-        """Whether there is a window with this part in its title."""
-        return any(part in title for _, title in self._listed_windows())
+    def titles(self):
+        """The titles of all windows."""
+        return [title for _, title in self._listed_windows()]
 
     def active_title(self):
         """The title of the window that has the keyboard; None when there is none."""
