@@ -38,13 +38,8 @@ CMainFrame::LoadOutcome CMainFrame::LoadFrom(const QString& path) {
   progress.NextStep();
   LoadNote note;
   // What was read before a fault stays, without a path.
-  const bool isLoaded = doc_.Load(content.Value(), pathText, &note, &progress);
-  QString text = note.Text(texts_);
-  if (!isLoaded && text.isEmpty()) {
-    const auto error = std::make_error_code(std::errc::not_enough_memory);
-    text = QString::fromStdString(error.message());
-  }
-  return {text, note.IsLaterVersion(), IdentityOf(content.Value()),
+  static_cast<void>(doc_.Load(content.Value(), pathText, &note, &progress));
+  return {note.Text(texts_), note.IsLaterVersion(), IdentityOf(content.Value()),
           note.HasLosses() ? LibraryGuard::Losses::Some : LibraryGuard::Losses::None};
 }
 

@@ -11,6 +11,10 @@
 namespace mivo {
 namespace {
 
+/// What a pin takes in memory while the pins of a record are collected: room that grows by
+/// doubling.
+constexpr std::size_t kPinCost = 3 * sizeof(SCompPin);
+
 constexpr std::array<std::u16string_view, 3> kBlockTypeNames = {u"GEN", u"SHB", u"FXB"};
 
 std::optional<BlockType> BlockTypeFromName(std::u16string_view name) {
@@ -99,6 +103,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
         return false;
       }
       if (!pending.context.pins.emplace_back().Read(reader, pending.blockCount)) return false;
+      if (!reader.Afford(kPinCost)) return false;
     } else if (field.starts_with(u'+')) {
       if (!reader.SkipUnknownRecord(field)) return false;
     } else if (field == u"-COMP") {

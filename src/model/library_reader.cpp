@@ -6,6 +6,14 @@
 #include "keyed_field.h"
 
 namespace mivo {
+namespace {
+
+// What these take in memory besides their texts and what they hold, roughly.
+constexpr std::size_t kPatternCost = 480;
+constexpr std::size_t kComponentCost = 340;
+constexpr std::size_t kAliasCost = 190;
+
+}  // namespace
 
 bool LibraryReader::ReadBody(SMivoDoc::BodyExtent extent) {
   std::u16string_view field;
@@ -48,7 +56,7 @@ void LibraryReader::ReadKeyedField(std::u16string_view field) {
 
 bool LibraryReader::ReadPattern() {
   auto pattern = std::make_shared<SPtn>();
-  if (!pattern->Read(reader_, bitPatternBudget_)) return false;
+  if (!pattern->Read(reader_, bitPatternBudget_) || !reader_.Afford(kPatternCost)) return false;
   // Components name their pattern, so one without a name, or with a name taken, is out of reach.
   std::u16string name = pattern->name;
   if (name.empty() || !patterns_.emplace(name, std::move(pattern)).second) {
@@ -87,7 +95,7 @@ bool LibraryReader::GivePattern(SComponent& component, const std::u16string& nam
 
 bool LibraryReader::ReadComponent() {
   auto component = std::make_unique<SComponent>();
-  if (!component->Read(reader_, component_)) return false;
+  if (!component->Read(reader_, component_) || !reader_.Afford(kComponentCost)) return false;
   if (!component_.patternName.empty() && !GivePattern(*component, component_.patternName)) {
     return false;
   }
@@ -131,6 +139,7 @@ bool LibraryReader::ReadAlias() {
     reader_.Report(FindingKind::AliasTargetMissing, target);
     return true;
   }
+  if (!reader_.Afford(kAliasCost)) return false;
   ReportRenamed(*doc_.AddAlias(existing->Component(), alias), alias);
   return true;
 }

@@ -71,13 +71,27 @@ void SMivoDoc::Clear() {
 }
 
 bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink,
-                    ProgressSink* progress) try {
+                    ProgressSink* progress) {
   if (path_) return false;
+  SRecordReader reader;
+  try {
+    return ReadContent(reader, bytes, path, sink, progress);
+  } catch (const std::bad_alloc&) {
+    // Half a library in the last of the memory is of no use to anybody.
+    Clear();
+    if (sink != nullptr) {
+      sink->Report({FindingKind::OutOfMemory, std::max(reader.Line(), 1), 1, {}, {}});
+    }
+    return false;
+  }
+}
+
+bool SMivoDoc::ReadContent(SRecordReader& reader, std::string_view bytes, std::u16string_view path,
+                           FindingSink* sink, ProgressSink* progress) {
   const std::optional<FileHead> head = PeekHead(bytes, sink);
   if (!head) return false;
   version_ = head->version;
 
-  SRecordReader reader;
   MemoryByteSource source(bytes);
   std::u16string decoded;
   if (version_ < kFirstUtf8Version) {
@@ -97,10 +111,6 @@ bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSin
   }
   path_ = path;
   return true;
-} catch (const std::bad_alloc&) {
-  // Half a library in the last of the memory is of no use to anybody.
-  Clear();
-  return false;
 }
 
 bool SMivoDoc::ReadBody(SRecordReader& reader, BodyExtent extent) {

@@ -79,6 +79,10 @@ class SMivoDoc {
   std::u16string property;
 
  private:
+  [[nodiscard]] bool ReadContent(SRecordReader& reader, std::string_view bytes,
+                                 std::u16string_view path, FindingSink* sink,
+                                 ProgressSink* progress);
+
   std::vector<std::unique_ptr<SComponent>> components_;
   NameIndex names_;
   std::optional<std::u16string> path_;

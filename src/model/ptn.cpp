@@ -9,6 +9,9 @@
 namespace mivo {
 namespace {
 
+/// What a drawing object takes in memory, roughly.
+constexpr std::size_t kObjectCost = 96;
+
 /// Takes the bit pattern behind "+BMP" where the pattern is ready for it, and skips it elsewhere.
 /// False when that fails the pattern.
 bool ReadBitPattern(SRecordReader& reader, BitPatternBudget& budget, bool named, SPtn& pattern) {
@@ -70,6 +73,7 @@ bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
         const std::u16string tag(field);
         if (object->Read(reader)) {
           objects.push_back(std::move(object));
+          if (!reader.Afford(kObjectCost)) return false;
         } else {
           reader.Report(FindingKind::ObjectDropped, tag);
         }

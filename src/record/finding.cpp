@@ -70,6 +70,10 @@ std::u16string_view MessageOf(FindingKind kind) noexcept {
       return u"bit pattern is not closed by its own tag";
     case FindingKind::BitPatternsTooLarge:
       return u"bit patterns take more than 1 GiB";
+    case FindingKind::OutOfProportion:
+      return u"too many records for so short a text";
+    case FindingKind::OutOfMemory:
+      return u"the memory does not suffice";
   }
   return u"";
 }

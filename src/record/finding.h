@@ -46,11 +46,13 @@ enum class FindingKind {
   PinBeforeSize,        ///< a pin that precedes the size or the block count of its component
   MalformedBitPattern,  ///< a bit pattern that is not closed by its own tag
   BitPatternsTooLarge,  ///< the bit patterns of the data pass the limit for all of them together
+  OutOfProportion,      ///< what the data hold would take far more memory than their length allows
+  OutOfMemory,          ///< the memory does not suffice; nothing that was read before it stays
 };
 
 /// The kinds are numbered from 0.
 inline constexpr std::int32_t kFindingKinds =
-    static_cast<std::int32_t>(FindingKind::BitPatternsTooLarge) + 1;
+    static_cast<std::int32_t>(FindingKind::OutOfMemory) + 1;
 
 enum class Severity { Warning, Error };
 

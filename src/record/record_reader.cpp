@@ -16,6 +16,10 @@ constexpr std::size_t kPieceBytes = std::size_t{1} << 16;
 constexpr std::size_t kStretchLength = std::size_t{1} << 20;
 constexpr std::size_t kFindingTextLength = 80;
 
+// What the records of the data may take, see Afford. Real ones need no more than half of it.
+constexpr std::uint64_t kAffordedAnyway = std::uint64_t{40} << 20;
+constexpr std::uint64_t kAffordedPerCharacter = 11;
+
 bool EndsField(char16_t c) {
   return c == u',' || c == u'\n' || c == u'\r';
 }
@@ -42,7 +46,7 @@ void SRecordReader::AttachFile(ByteSource& source, ByteDecoding decoding) {
 void SRecordReader::Start(const char16_t* begin) {
   windowBegin_ = current_ = end_ = begin;
   attached_ = true;
-  taken_ = 0;
+  taken_ = afforded_ = 0;
   exhausted_ = false;
   line_ = fieldLine_ = 1;
   windowOffset_ = lineOffset_ = 0;
@@ -206,6 +210,13 @@ void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
   constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
   sink_->Report({kind, fieldLine_, static_cast<std::int32_t>(std::min(fieldColumn_, kLargest)),
                  std::u16string(record_), std::u16string(text.substr(0, kFindingTextLength))});
+}
+
+bool SRecordReader::Afford(std::size_t bytes) {
+  afforded_ += bytes;
+  if (afforded_ <= kAffordedAnyway + kAffordedPerCharacter * taken_) return true;
+  Report(FindingKind::OutOfProportion, record_);
+  return false;
 }
 
 std::u16string_view SRecordReader::TextValue(std::u16string_view value) {

@@ -73,6 +73,11 @@ class SRecordReader {
     progressTotal_ = total;
   }
 
+  /// Adds `bytes` to what the data read so far take in memory. False, which is reported, when that
+  /// is out of all proportion to their length: the data are then made to exhaust the memory, and
+  /// not worth reading on.
+  [[nodiscard]] bool Afford(std::size_t bytes);
+
   /// Where findings go; none by default. The sink stays owned by the caller.
   void SetSink(FindingSink* sink) noexcept { sink_ = sink; }
 
@@ -143,6 +148,7 @@ class SRecordReader {
   ProgressSink* progress_ = nullptr;
   std::uint64_t progressTotal_ = 0;
   std::uint64_t taken_ = 0;
+  std::uint64_t afforded_ = 0;
 };
 
 }  // namespace mivo

@@ -1,39 +1,17 @@
 // The memory does not suffice for what a file or a clipboard text holds.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
-#include <fstream>
-#include <functional>
 #include <string>
+#include <vector>
 
-#include "child_process.h"
+#include "collected_findings.h"
+#include "little_memory.h"
 #include "mivo_doc.h"
 #include "schematic_data.h"
 
 namespace mivo {
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kHasSanitizer = true;
-#elif defined(__has_feature)
-constexpr bool kHasSanitizer = __has_feature(address_sanitizer);
-#else
-constexpr bool kHasSanitizer = false;
-#endif
-
-/// Runs `action` in a process that gets 16 MB more than it has.
-std::string RunWithLittleMemory(const std::function<std::string()>& action) {
-  return RunInChild([&]() -> std::string {
-    std::size_t pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    const rlim_t now = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
-    const rlimit limit{now + (rlim_t{16} << 20), RLIM_INFINITY};
-    if (pages == 0 || setrlimit(RLIMIT_AS, &limit) != 0) return "no limit";
-    return action();
-  });
-}
 
 std::string Component(const std::string& name) {
   return "+COMP,N:" + name + "\nX:4,Y:3,B:1\nTYPE:GEN,FB:0\nR:U\nNOTE:,MFR:,MFRPN:,PKG:,-COMP\n";
@@ -46,7 +24,9 @@ TEST(LibraryMemory, ALibraryThatDoesNotFitIsRefused) {
   bytes += "-TARSL_LIB_V.1.0\n";
   EXPECT_EQ(RunWithLittleMemory([&]() -> std::string {
               SMivoDoc doc;
-              if (doc.Load(bytes, u"path")) return "loaded";
+              CollectedFindings findings;
+              if (doc.Load(bytes, u"path", &findings)) return "loaded";
+              if (findings.Kinds() != std::vector{FindingKind::OutOfMemory}) return "unsaid";
               if (!doc.Names().Entries().empty() || doc.Path()) return "refused, but not empty";
               const std::string small = "+TARSL_LIB_V.1.0\nVER:82\n" + Component("a");
               return doc.Load(small, u"path") ? "refused, and the next one loaded" : "useless";

@@ -29,7 +29,8 @@ TEST(FindingSeverity, IsErrorForWhatFailsTheRead) {
   for (const FindingKind kind :
        {FindingKind::NotALibrary, FindingKind::UnclosedRecord, FindingKind::WrongClosingTag,
         FindingKind::IncompleteRecord, FindingKind::InvalidValue, FindingKind::PinBeforeSize,
-        FindingKind::MalformedBitPattern, FindingKind::BitPatternsTooLarge}) {
+        FindingKind::MalformedBitPattern, FindingKind::BitPatternsTooLarge,
+        FindingKind::OutOfProportion, FindingKind::OutOfMemory}) {
     EXPECT_EQ(SeverityOf(kind), Severity::Error) << Utf16ToUtf8(MessageOf(kind));
   }
 }

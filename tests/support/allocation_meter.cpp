@@ -1,6 +1,8 @@
 #include "allocation_meter.h"
 
+#include <algorithm>
 #include <atomic>
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 
@@ -8,6 +10,18 @@ namespace {
 
 std::atomic<std::size_t> calls;
 std::atomic<std::size_t> bytes;
+std::atomic<std::size_t> live;
+std::atomic<std::size_t> peak;
+
+/// In front of what is handed out stands its size. Any heap adds about as much.
+constexpr std::size_t kHeader = alignof(std::max_align_t);
+
+void Forget(void* memory) {
+  if (memory == nullptr) return;
+  auto* const block = static_cast<std::size_t*>(memory) - kHeader / sizeof(std::size_t);
+  live -= *block;
+  std::free(block);
+}
 
 }  // namespace
 
@@ -16,22 +30,28 @@ std::atomic<std::size_t> bytes;
 void* operator new(std::size_t size) {
   calls += 1;
   bytes += size;
-  void* const memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
+  const std::size_t whole = size + kHeader;
+  auto* const block = whole > size ? static_cast<std::size_t*>(std::malloc(whole)) : nullptr;
+  if (block == nullptr) throw std::bad_alloc();
+  *block = whole;
+  live += whole;
+  peak = std::max(peak.load(), live.load());
+  return block + kHeader / sizeof(std::size_t);
 }
 
 void operator delete(void* memory) noexcept {
-  std::free(memory);
+  Forget(memory);
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
-  std::free(memory);
+  Forget(memory);
 }
 
 namespace mivo {
 
-AllocationMeter::AllocationMeter() : callsBefore_(calls), bytesBefore_(bytes) {}
+AllocationMeter::AllocationMeter() : callsBefore_(calls), bytesBefore_(bytes), liveBefore_(live) {
+  peak = live.load();
+}
 
 std::size_t AllocationMeter::Calls() const {
   return calls - callsBefore_;
@@ -39,6 +59,10 @@ std::size_t AllocationMeter::Calls() const {
 
 std::size_t AllocationMeter::Bytes() const {
   return bytes - bytesBefore_;
+}
+
+std::size_t AllocationMeter::Peak() const {
+  return peak - liveBefore_;
 }
 
 }  // namespace mivo

@@ -340,6 +340,8 @@ constexpr TranslatedText kTexts[] = {
     {IdOf(FindingKind::MalformedBitPattern),
      "Bitmuster wird nicht von seiner eigenen Marke geschlossen"},
     {IdOf(FindingKind::BitPatternsTooLarge), "Bitmuster belegen mehr als 1 GiB"},
+    {IdOf(FindingKind::OutOfProportion), "zu viele Datensätze für einen so kurzen Text"},
+    {IdOf(FindingKind::OutOfMemory), "der Speicher reicht nicht aus"},
 };
 static_assert(IsInOrder(kTexts));
 

@@ -1,0 +1,111 @@
+#include "hostile_library.h"
+
+namespace mivo {
+namespace {
+
+std::string Repeated(std::string_view text, std::size_t bytes) {
+  std::string result;
+  result.reserve(bytes + text.size());
+  while (result.size() < bytes) result += text;
+  return result;
+}
+
+/// What `record` makes of 0, 1, 2, ... one behind the other.
+std::string Counted(std::size_t bytes, const std::function<std::string(int)>& record) {
+  std::string result;
+  result.reserve(bytes + bytes / 8);
+  for (int n = 0; result.size() < bytes; ++n) result += record(n);
+  return result;
+}
+
+std::string Name(int n) {
+  std::string name = "N";
+  return name += std::to_string(n);
+}
+
+std::string InComponent(const std::string& records) {
+  return "+COMP,N:A,X:1,Y:1,B:255," + records + "-COMP,";
+}
+
+std::string InPattern(const std::string& records) {
+  return "+PTN,N:p,X:1,Y:1," + records + "-PTN,+COMP,N:A,P:p,X:1,Y:1,B:1,-COMP,";
+}
+
+}  // namespace
+
+const std::vector<HostileCase>& HostileCases() {
+  static const std::vector<HostileCase> cases = {
+      {"Pins", [](std::size_t bytes) { return InComponent(Repeated("+PIN,-PIN,", bytes)); }},
+      {"PinsOf255Blocks",
+       [](std::size_t bytes) { return InComponent(Repeated("+PIN,M:1,-PIN,", bytes)); }},
+      {"PinsWithTheLastOf255Numbers",
+       [](std::size_t bytes) {
+         return InComponent(Repeated("+PIN," + Repeated("M:,", 254 * 3) + "M:1,-PIN,", bytes));
+       }},
+      {"Lines", [](std::size_t bytes) { return InPattern(Repeated("+L,-L,", bytes)); }},
+      {"Ellipses", [](std::size_t bytes) { return InPattern(Repeated("+C,-C,", bytes)); }},
+      {"Arcs", [](std::size_t bytes) { return InPattern(Repeated("+AR,-AR,", bytes)); }},
+      {"Polygons",
+       [](std::size_t bytes) {
+         return InPattern(Repeated("+PG,N:3,X:0,Y:0,X:1,Y:1,X:2,Y:0,-PG,", bytes));
+       }},
+      {"Texts",
+       [](std::size_t bytes) { return InPattern(Repeated("+TX,X:0,Y:0,S:A,FS:8,-TX,", bytes)); }},
+      {"Patterns",
+       [](std::size_t bytes) {
+         return Counted(bytes, [](int n) { return "+PTN,N:" + Name(n) + ",-PTN,"; });
+       }},
+      {"BitPatterns",
+       [](std::size_t bytes) {
+         return Counted(bytes,
+                        [](int n) { return "+PTN,X:1,Y:1,N:" + Name(n) + ",+BMP,-BMP,-PTN,"; });
+       }},
+      {"Components",
+       [](std::size_t bytes) {
+         return Counted(bytes, [](int n) { return "+COMP,N:" + Name(n) + ",X:1,Y:1,B:1,-COMP,"; });
+       }},
+      {"ComponentsOfOneName",
+       [](std::size_t bytes) { return Repeated("+COMP,N:R,X:1,Y:1,B:1,-COMP,", bytes); }},
+      {"NamesAndTheirNumbers",
+       [](std::size_t bytes) {
+         return Repeated("+COMP,N:R,X:1,Y:1,B:1,-COMP,+COMP,N:R(1),X:1,Y:1,B:1,-COMP,", bytes);
+       }},
+      {"ComponentsWithOnePattern",
+       [](std::size_t bytes) {
+         return "+PTN,N:p,X:501,Y:501,-PTN," + Repeated("+COMP,N:R,P:p,X:1,Y:1,B:1,-COMP,", bytes);
+       }},
+      {"NamesOfTheLongestLength",
+       [](std::size_t bytes) {
+         return Repeated("+COMP,N:" + std::string(32766, 'x') + ",X:1,Y:1,B:1,-COMP,", bytes);
+       }},
+      {"AliasesOfAliases",
+       [](std::size_t bytes) {
+         return "+COMP,N:N0,X:1,Y:1,B:1,-COMP," + Counted(bytes, [](int n) {
+                  return "+ALIAS,N:" + Name(n) + ",A:" + Name(n + 1) + ",-ALIAS,";
+                });
+       }},
+      {"AliasesEachTwice",
+       [](std::size_t bytes) {
+         return "+COMP,N:R,X:1,Y:1,B:1,-COMP," +
+                Counted(bytes, [](int n) { return "+ALIAS,N:R,A:" + Name(n / 2) + ",-ALIAS,"; });
+       }},
+      {"OneField", [](std::size_t bytes) { return "PROP:" + std::string(bytes, 'x') + ","; }},
+      {"OneFieldOfEscapes",
+       [](std::size_t bytes) { return "PROP:" + Repeated("%41", bytes) + ","; }},
+      {"UnclosedRecords", [](std::size_t bytes) { return Repeated("+A,", bytes); }},
+      {"UnclosedObjects", [](std::size_t bytes) { return "+PTN," + Repeated("+L,", bytes); }},
+      {"Commas", [](std::size_t bytes) { return std::string(bytes, ','); }},
+  };
+  return cases;
+}
+
+void PrintTo(const HostileCase& hostile, std::ostream* out) {
+  *out << hostile.name;
+}
+
+std::string HostileLibrary(const HostileCase& hostile, std::size_t bytes, int version) {
+  return "+TARSL_LIB_V.1.0\nVER:" + std::to_string(version) + "\n" + hostile.records(bytes) +
+         "-TARSL_LIB_V.1.0\n";
+}
+
+}  // namespace mivo
