@@ -99,6 +99,47 @@ const std::vector<HostileCase>& HostileCases() {
   return cases;
 }
 
+const std::vector<HostileObject>& HostileObjects() {
+  static const std::string corners = "X:-2147483648,Y:-2147483648,X:2147483647,Y:2147483647,";
+  static const std::vector<HostileObject> objects = {
+      {"Ordinary", "+L,W:1,X:0,Y:0,X:500,Y:500,-L"},
+      {"Line", "+L,W:1," + corners + "-L"},
+      {"DottedLine", "+L,W:9,S:1," + corners + "-L"},
+      {"LineOfTheWidestPen", "+L,W:2147483647," + corners + "-L"},
+      {"Curve", "+L,W:1,CV:1," + corners + corners + "-L"},
+      {"DottedCurve",
+       "+L,W:3,S:1,CV:1,X:-2147483648,Y:0,X:2147483647,Y:500,X:2147483647,Y:0,"
+       "X:-2147483648,Y:500,-L"},
+      {"CurveOfTheWidestPen",
+       "+L,W:2147483647,CV:1,X:-1000000,Y:-1000000,X:1000000,Y:1000000,X:1000000,Y:-1000000,"
+       "X:-1000000,Y:1000000,-L"},
+      {"Ellipse", "+C,W:1,F:1," + corners + "-C"},
+      {"FlatEllipse", "+C,W:1,F:1,X:-2147483648,Y:0,X:2147483647,Y:3,-C"},
+      {"EllipseOfTheWidestPen", "+C,W:2147483647,F:-1,X:-1000000,Y:0,X:1000000,Y:500,-C"},
+      {"DottedEllipse", "+C,W:60,S:1,F:-1,X:-2147483648,Y:0,X:2147483647,Y:500,-C"},
+      {"Polygon", "+PG,W:1,F:1,N:3," + corners + "X:2147483647,Y:-2147483648,-PG"},
+      {"PolygonOfTheWidestPen",
+       "+PG,W:2147483647,F:-1,N:3," + corners + "X:2147483647,Y:-2147483648,-PG"},
+      {"Arc", "+AR,W:1,X:250,Y:250,R:2147483647,B:0,E:5000,-AR"},
+      {"ArcSeenAtItsEdge", "+AR,W:1,X:100000000,Y:250,R:99999900,B:100,E:5700,-AR"},
+      {"ArcOfTheWidestPen", "+AR,W:2147483647,X:0,Y:0,R:1000000,B:0,E:5000,-AR"},
+      {"ArcOfAllAngles", "+AR,W:1,S:1,X:250,Y:250,R:200,B:-2147483648,E:2147483647,-AR"},
+      {"Text", "+TX,X:250,Y:250,A:8,D:0,S:TEXT,FN:Arial,FS:2147483647,FF:BI,-TX"},
+      {"FarText", "+TX,X:2147483647,Y:-2147483648,A:0,D:1,S:TEXT,FN:Arial,FS:80,-TX"},
+      {"LongText", "+TX,X:2,Y:2,A:0,D:1,S:" + std::string(32000, 'W') + ",FN:Arial,FS:80,-TX"},
+  };
+  return objects;
+}
+
+void PrintTo(const HostileObject& object, std::ostream* out) {
+  *out << object.name;
+}
+
+std::string LibraryWith(const HostileObject& object) {
+  return "+TARSL_LIB_V.1.0\nVER:82\n+PTN,N:A,X:501,Y:501\n" + object.record +
+         "\n-PTN\n+COMP,N:A,P:A\nX:50,Y:50,B:1\n-COMP\n-TARSL_LIB_V.1.0\n";
+}
+
 void PrintTo(const HostileCase& hostile, std::ostream* out) {
   *out << hostile.name;
 }

@@ -26,24 +26,29 @@ class RoundPen {
 
   [[nodiscard]] double Radius() const noexcept { return radius_; }
 
-  // All pixels nearer than the radius to the segment: two discs and the slab between them.
-  void Segment(PathPoint from, PathPoint to) noexcept {
+  // All pixels nearer than the radius to the segment: two discs and the slab between them. Whether
+  // these are all pixels of the canvas: a pen as wide as that has nothing left to do.
+  bool Segment(PathPoint from, PathPoint to) noexcept {
     const PathPoint a{from.x + shift_, from.y + shift_};
     const PathPoint b{to.x + shift_, to.y + shift_};
     const PixelRect& clip = canvas_.Clip();
     const double top = std::max(std::min(a.y, b.y) - radius_, static_cast<double>(clip.top));
     const double bottom =
         std::min(std::max(a.y, b.y) + radius_, static_cast<double>(clip.bottom) - 1);
-    if (!(top <= bottom)) return;
+    if (!(top <= bottom)) return false;
     const std::array<PathPoint, 4> slab = Slab(a, b);
+    const auto first = static_cast<std::int32_t>(std::ceil(top));
     const auto last = static_cast<std::int32_t>(std::floor(bottom));
-    for (auto y = static_cast<std::int32_t>(std::ceil(top)); y <= last; ++y) {
+    bool coversAll = first == clip.top && last == clip.bottom - 1;
+    for (std::int32_t y = first; y <= last; ++y) {
       OpenInterval covered;
       IncludeDisc(covered, a, y);
       IncludeDisc(covered, b, y);
       IncludeSlab(covered, slab, y);
       if (covered.low < covered.high) FillBetween(covered, y);
+      coversAll = coversAll && covered.low < clip.left && covered.high > clip.right - 1;
     }
+    return coversAll;
   }
 
  private:
@@ -118,7 +123,9 @@ void StrokeWide(RasterCanvas& canvas, std::span<const PathPoint> path, std::int3
                 Color color) {
   RoundPen pen(canvas, width, color);
   if (path.size() == 1) pen.Segment(path[0], path[0]);
-  for (std::size_t i = 1; i < path.size(); ++i) pen.Segment(path[i - 1], path[i]);
+  for (std::size_t i = 1; i < path.size(); ++i) {
+    if (pen.Segment(path[i - 1], path[i])) return;
+  }
 }
 
 void StrokeWideDashed(RasterCanvas& canvas, std::span<const PathPoint> path, std::int32_t width,
@@ -143,7 +150,7 @@ void StrokeWideDashed(RasterCanvas& canvas, std::span<const PathPoint> path, std
     for (; begin < part.to; begin += period) {
       const double from = std::max(begin, part.from);
       const double to = std::min(begin + dash, part.to);
-      if (from < to) pen.Segment(at(from), at(to));
+      if (from < to && pen.Segment(at(from), at(to))) return;
     }
     passed += length;
   }

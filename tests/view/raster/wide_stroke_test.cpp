@@ -77,6 +77,19 @@ TEST(StrokeWide, CornersAreRound) {
       .###.....)"));
 }
 
+TEST(StrokeWide, APenThatMissesCornersOnlyGoesOn) {
+  EXPECT_EQ(Drawn({9, 9}, {{4, 4}, {0, 0}, {8, 8}}, 11), Picture(R"(
+      ########.
+      #########
+      #########
+      #########
+      #########
+      #########
+      #########
+      #########
+      .########)"));
+}
+
 // The definition, worked out for each pixel: its centre is nearer than half the width.
 bool IsCovered(const std::vector<PathPoint>& path, std::int32_t width, PixelPoint pixel) {
   const double shift = width % 2 == 0 ? -0.5 : 0;
