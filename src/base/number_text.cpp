@@ -1,5 +1,6 @@
 #include "number_text.h"
 
+#include <array>
 #include <limits>
 
 namespace mivo {
@@ -19,12 +20,22 @@ bool TakeSign(std::u16string_view& text) {
   return negative;
 }
 
-/// Value of a hexadecimal digit, or 16.
+constexpr std::uint8_t kNoDigit = 16;
+
+/// Values of the hexadecimal digits, and kNoDigit for the other characters of ASCII.
+constexpr auto kHexDigits = [] {
+  std::array<std::uint8_t, 0x80> values{};
+  values.fill(kNoDigit);
+  for (std::uint8_t i = 0; i < 10; ++i) values[u'0' + i] = i;
+  for (std::uint8_t i = 0; i < 6; ++i) {
+    values[u'A' + i] = values[u'a' + i] = static_cast<std::uint8_t>(10 + i);
+  }
+  return values;
+}();
+
+/// Value of a hexadecimal digit, or kNoDigit.
 std::uint32_t HexDigit(char16_t c) {
-  if (c >= u'0' && c <= u'9') return static_cast<std::uint32_t>(c - u'0');
-  if (c >= u'A' && c <= u'F') return static_cast<std::uint32_t>(c - u'A' + 10);
-  if (c >= u'a' && c <= u'f') return static_cast<std::uint32_t>(c - u'a' + 10);
-  return 16;
+  return c < kHexDigits.size() ? kHexDigits[c] : kNoDigit;
 }
 
 }  // namespace
@@ -47,13 +58,13 @@ std::int32_t ParseInt(std::u16string_view text) noexcept {
 std::uint32_t ParseHex(std::u16string_view text) noexcept {
   const bool negative = TakeSign(text);
   if (text.size() > 2 && text[0] == u'0' && (text[1] == u'x' || text[1] == u'X') &&
-      HexDigit(text[2]) < 16) {
+      HexDigit(text[2]) != kNoDigit) {
     text.remove_prefix(2);
   }
   std::uint64_t value = 0;
   for (const char16_t c : text) {
     const std::uint32_t digit = HexDigit(c);
-    if (digit == 16) break;
+    if (digit == kNoDigit) break;
     value = value * 16 + digit;
     if (value > 0xFFFFFFFFu) return 0xFFFFFFFFu;
   }

@@ -32,14 +32,17 @@ LeadByte Classify(std::uint8_t byte) {
   return {0, 0, 0};
 }
 
-/// Copies the leading run of ASCII, eight bytes at a time; returns its length.
+/// Copies the leading run of ASCII, a block at a time; returns its length.
 std::size_t CopyAscii(const char* in, std::size_t count, char16_t* out) noexcept {
+  constexpr std::size_t kBlock = 32;
   std::size_t i = 0;
-  for (; i + 8 <= count; i += 8) {
-    std::uint64_t block;
-    std::memcpy(&block, in + i, sizeof block);
-    if ((block & 0x8080808080808080u) != 0) break;
-    for (std::size_t k = 0; k < 8; ++k) out[i + k] = static_cast<unsigned char>(in[i + k]);
+  for (; i + kBlock <= count; i += kBlock) {
+    std::array<std::uint64_t, kBlock / sizeof(std::uint64_t)> words;
+    std::memcpy(words.data(), in + i, kBlock);
+    std::uint64_t any = 0;
+    for (const std::uint64_t word : words) any |= word;
+    if ((any & 0x8080808080808080u) != 0) break;
+    for (std::size_t k = 0; k < kBlock; ++k) out[i + k] = static_cast<unsigned char>(in[i + k]);
   }
   for (; i < count && static_cast<unsigned char>(in[i]) < 0x80; ++i) {
     out[i] = static_cast<unsigned char>(in[i]);

@@ -96,11 +96,20 @@ std::u16string PinNameToDisplayText(std::u16string_view name) {
 }
 
 std::u16string SCompPin::DisplayName() const {
-  return PinNameToDisplayText(name_);
+  return PinNameToDisplayText(Name());
 }
 
 void SCompPin::SetNameFromDisplayText(std::u16string_view text) {
-  name_ = PinNameFromDisplayText(text);
+  name_ = CompactText(PinNameFromDisplayText(text));
+}
+
+bool SCompPin::TakeName(std::u16string_view text) {
+  if (IsPlain(text)) {
+    name_ = CompactText(text);
+    return true;
+  }
+  SetNameFromDisplayText(text);
+  return IsDisplayForm(text);
 }
 
 bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
@@ -122,12 +131,8 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
     if (!keyed) {
       reader.Report(FindingKind::FieldWithoutValue, field);
     } else if (keyed->key == u"N") {
-      const std::u16string_view text = reader.TextValue(keyed->value);
-      if (IsPlain(text)) {
-        name_ = text;
-      } else {
-        SetNameFromDisplayText(text);
-        if (!IsDisplayForm(text)) reader.Report(FindingKind::NotCanonical, field);
+      if (!TakeName(reader.TextValue(keyed->value))) {
+        reader.Report(FindingKind::NotCanonical, field);
       }
     } else if (keyed->key == u"DF") {
       nameMask = ParseHex(keyed->value);
@@ -157,8 +162,8 @@ bool SCompPin::Write(SRecordWriter& writer) const {
     if ((type & entry.bit) != 0) letters.push_back(entry.letter);
   }
   writer.WriteField(u"+PIN");
-  if (IsPlain(name_)) {
-    writer.WriteText(u"N", name_);
+  if (IsPlain(Name())) {
+    writer.WriteText(u"N", Name());
   } else {
     writer.WriteText(u"N", DisplayName());
   }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "compact_text.h"
 #include "packed_texts.h"
 #include "record_reader.h"
 #include "record_writer.h"
@@ -63,7 +64,7 @@ class SCompPin {
   void ResizeNumbers(std::int32_t count) { numbers_.Resize(count); }
 
   /// The name as stored: overlined characters carry kOverline.
-  [[nodiscard]] const std::u16string& Name() const noexcept { return name_; }
+  [[nodiscard]] std::u16string_view Name() const noexcept { return name_.View(); }
   /// The name as people type and files hold it: "\" in front of every overlined character, every
   /// character reduced to seven bits.
   [[nodiscard]] std::u16string DisplayName() const;
@@ -78,7 +79,10 @@ class SCompPin {
   std::uint32_t nameMask = kWholeNameShown;
 
  private:
-  std::u16string name_;
+  /// Sets the name from display text; false when it is displayed as another text.
+  bool TakeName(std::u16string_view text);
+
+  CompactText name_;
   PackedTexts numbers_;
 };
 

@@ -1,10 +1,12 @@
 #ifndef MIVO_MODEL_PACKED_TEXTS_H
 #define MIVO_MODEL_PACKED_TEXTS_H
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
+
+#include "compact_text.h"
 
 namespace mivo {
 
@@ -14,8 +16,11 @@ namespace mivo {
 /// absent. A short text needs no allocation, and slots behind the last text cost nothing.
 class PackedTexts {
  public:
+  static constexpr std::int32_t kMaxCount = 0xFFFF;
+
   PackedTexts() = default;
-  explicit PackedTexts(std::int32_t count) : count_(count) {}
+  /// `count` slots, at most kMaxCount; all are absent.
+  explicit PackedTexts(std::int32_t count) : count_(Limited(count)) {}
 
   [[nodiscard]] std::int32_t Count() const noexcept { return count_; }
 
@@ -33,14 +38,19 @@ class PackedTexts {
   bool operator==(const PackedTexts& other) const = default;
 
  private:
-  // Keeps equal contents equal in representation: nothing absent is stored at the end.
-  void DropAbsentTail();
+  static std::uint16_t Limited(std::int32_t count) noexcept {
+    return static_cast<std::uint16_t>(std::clamp(count, 0, kMaxCount));
+  }
+
+  // Takes what `slots` slots hold. Keeps equal contents equal in representation: nothing absent is
+  // stored at the end.
+  void Store(std::u16string_view packed, std::int32_t slots);
 
   // Per slot up to the last present one: two units with the text's length + 1 (0 when absent), then
   // the text.
-  std::u16string packed_;
-  std::int32_t count_ = 0;
-  std::int32_t stored_ = 0;  // slots that packed_ holds
+  CompactText packed_;
+  std::uint16_t count_ = 0;
+  std::uint16_t stored_ = 0;  // slots that packed_ holds
 };
 
 }  // namespace mivo

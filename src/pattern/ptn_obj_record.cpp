@@ -23,7 +23,7 @@ std::optional<KeyedField> PtnObjRecord::Next(EmptyValue emptyValue) {
   return std::nullopt;
 }
 
-bool StrokeFields::Take(std::u16string_view key, std::int32_t value) {
+bool StrokeFields::Take(const FieldKey& key, std::int32_t value) {
   if (key == u"W") {
     width = value;
   } else if (key == u"S") {
@@ -34,7 +34,7 @@ bool StrokeFields::Take(std::u16string_view key, std::int32_t value) {
   return true;
 }
 
-bool StrokeFields::TakeWithFill(std::u16string_view key, std::int32_t value) {
+bool StrokeFields::TakeWithFill(const FieldKey& key, std::int32_t value) {
   if (key != u"F") return Take(key, value);
   fill = value;
   return true;

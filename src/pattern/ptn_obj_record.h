@@ -50,9 +50,9 @@ struct StrokeFields {
   std::int32_t fill = SPtnObj::kNotFilled;
 
   /// Takes "W" and "S"; whether the key was one of them.
-  bool Take(std::u16string_view key, std::int32_t value);
+  bool Take(const FieldKey& key, std::int32_t value);
   /// Takes "W", "S" and "F"; whether the key was one of them.
-  bool TakeWithFill(std::u16string_view key, std::int32_t value);
+  bool TakeWithFill(const FieldKey& key, std::int32_t value);
 
   void StoreTo(SPtnObj& object) const;
 };

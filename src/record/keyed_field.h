@@ -1,14 +1,52 @@
 #ifndef MIVO_RECORD_KEYED_FIELD_H
 #define MIVO_RECORD_KEYED_FIELD_H
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
 namespace mivo {
 
-/// A field KEY:value. Both views point into the field.
+/// The key of a field, which is told from the keys that we know by a number instead of its text.
+class FieldKey {
+ public:
+  constexpr explicit FieldKey(std::u16string_view text) noexcept : text_(text), code_(Code(text)) {}
+
+  [[nodiscard]] constexpr std::u16string_view Text() const noexcept { return text_; }
+
+  /// One of our own keys: one to eight characters of ASCII, which the compiler checks.
+  struct Known {
+    consteval Known(const char16_t* text) : code(Code(text)) {
+      if (code == kUnknown) throw "no such key can be told from others";
+    }
+    std::uint64_t code;
+  };
+
+  friend constexpr bool operator==(const FieldKey& key, Known known) noexcept {
+    return key.code_ == known.code;
+  }
+
+ private:
+  static constexpr std::uint64_t kUnknown = 0;
+
+  static constexpr std::uint64_t Code(std::u16string_view text) noexcept {
+    std::uint64_t code = 0;
+    if (text.size() > sizeof code) return kUnknown;
+    bool isKnowable = true;
+    for (const char16_t c : text) {
+      isKnowable &= c != u'\0' && c < 0x80;
+      code = code << 8 | c;
+    }
+    return isKnowable ? code : kUnknown;
+  }
+
+  std::u16string_view text_;
+  std::uint64_t code_;
+};
+
+/// A field KEY:value. Both point into the field.
 struct KeyedField {
-  std::u16string_view key;
+  FieldKey key;
   std::u16string_view value;
 };
 
@@ -18,10 +56,13 @@ enum class EmptyValue { Allowed, Refused };
 /// value is empty and must not be.
 [[nodiscard]] constexpr std::optional<KeyedField> SplitKeyedField(std::u16string_view field,
                                                                   EmptyValue emptyValue) noexcept {
-  const std::size_t colon = field.find(u':');
-  if (colon == std::u16string_view::npos || colon == 0) return std::nullopt;
-  if (emptyValue == EmptyValue::Refused && colon + 1 == field.size()) return std::nullopt;
-  return KeyedField{field.substr(0, colon), field.substr(colon + 1)};
+  // Keys are so short that a call of anything would take longer than the search itself.
+  std::size_t colon = 0;
+  while (colon < field.size() && field[colon] != u':') ++colon;
+  if (colon == field.size() || colon == 0) return std::nullopt;
+  const std::u16string_view value(field.data() + colon + 1, field.size() - colon - 1);
+  if (emptyValue == EmptyValue::Refused && value.empty()) return std::nullopt;
+  return KeyedField{FieldKey({field.data(), colon}), value};
 }
 
 /// The text up to its first NUL.

@@ -86,7 +86,9 @@ class SRecordReader {
 
   /// The value of a name or text in the field read last: up to its first NUL, which an escape can
   /// put there. Names and texts never hold one: everything behind it would be lost at a save.
-  [[nodiscard]] std::u16string_view TextValue(std::u16string_view value);
+  [[nodiscard]] std::u16string_view TextValue(std::u16string_view value) {
+    return fieldInScratch_ ? CutAtNul(value) : value;  // a NUL outside of an escape ends the data
+  }
 
   /// Marks a record as open for as long as it lives, so that findings name the record around them.
   class RecordScope {
@@ -107,40 +109,43 @@ class SRecordReader {
 
  private:
   static constexpr char16_t kEndCharacter = 0xFFFF;
+  static constexpr char16_t kNul = 0;
 
-  char16_t GetCharacter();
+  void Start();
   bool Refill();
-  bool NextStretch();
-  void Start(const char16_t* begin);
-  void MoveWindow(const char16_t* begin, std::size_t length);
+  std::size_t CopyPiece();
+  std::size_t DecodePiece();
   void Took(std::size_t count);
+  char16_t GetCharacter();
+  bool SkipBlanks();
   void CountLine() noexcept;
+  FieldStatus ReadNothing(std::u16string_view& field);
   FieldStatus CollectIntoScratch(std::u16string_view& field);
   bool AppendEscape();
+  std::u16string_view CutAtNul(std::u16string_view value);
 
-  // The characters at hand: a stretch of a text, the decoded window of a file.
-  const char16_t* current_ = nullptr;
-  const char16_t* end_ = nullptr;
-  const char16_t* windowBegin_ = nullptr;
-  bool attached_ = false;
+  // The characters at hand, with a NUL behind them, so that nobody has to look for the end. A
+  // reader without a source has nothing but that NUL.
+  std::unique_ptr<char16_t[]> window_;
+  const char16_t* current_ = &kNul;
+  const char16_t* end_ = &kNul;
 
-  std::u16string_view rest_;  // of a text, behind the stretch at hand
+  std::u16string_view text_;  // what has not come into the window yet, of a text
   ByteSource* source_ = nullptr;
   ByteDecoding decoding_ = ByteDecoding::Utf8;
-  std::unique_ptr<char16_t[]> window_;
   bool exhausted_ = false;  // the source has nothing more
   // Read but not decoded yet: a character cut off by the end of the last piece.
   std::unique_ptr<char[]> bytes_;
   std::size_t byteCount_ = 0;
 
-  std::u16string scratch_;  // a field that is not a stretch of the characters at hand
+  std::u16string scratch_;  // a field that is not a stretch of the window
   bool fieldInScratch_ = false;
 
   std::int32_t line_ = 0;
   std::int32_t fieldLine_ = 0;
-  std::int64_t windowOffset_ = 0;  // characters before the window
-  std::int64_t lineOffset_ = 0;    // characters before the current line
-  std::int64_t fieldColumn_ = 0;
+  // Where the current line begins, from the front of the window; negative once that has moved on.
+  std::int64_t lineAt_ = 0;
+  std::int64_t fieldColumn_ = 0;  // of the field read last, counted from 0
 
   FindingSink* sink_ = nullptr;
   std::u16string_view record_;

@@ -58,7 +58,7 @@ std::string WriteStart(const RecoveryStart& start) {
 
 std::optional<RecoveryStart> ReadStart(std::string_view bytes) {
   RecoveryStart start;
-  const auto take = [&](std::u16string_view key, std::u16string_view value) {
+  const auto take = [&](const FieldKey& key, std::u16string_view value) {
     if (key == u"SIZE") return ReadNumber(value, start.identity.size);
     if (key == u"HASH") return ReadNumber(value, start.identity.hash);
     if (key == u"PATH") start.path = value;
@@ -88,7 +88,7 @@ std::string WriteNames(const RecoveryNames& names) {
 std::optional<RecoveryNames> ReadNames(std::string_view bytes) {
   RecoveryNames names;
   std::uint32_t component = 0;
-  const auto take = [&](std::u16string_view key, std::u16string_view value) {
+  const auto take = [&](const FieldKey& key, std::u16string_view value) {
     if (key == u"C") return ReadNumber(value, component);
     if (key == u"N") names.names.push_back({component, std::u16string(value)});
     if (key == u"PROP") names.property = value;

@@ -26,7 +26,7 @@ TEST_P(SplitKeyedFieldTest, SplitsAtTheFirstColon) {
   const auto keyed = SplitKeyedField(GetParam().field, GetParam().emptyValue);
   ASSERT_EQ(keyed.has_value(), GetParam().keyAndValue.has_value());
   if (keyed) {
-    EXPECT_EQ(std::pair(keyed->key, keyed->value), *GetParam().keyAndValue);
+    EXPECT_EQ(std::pair(keyed->key.Text(), keyed->value), *GetParam().keyAndValue);
   }
 }
 
@@ -44,6 +44,16 @@ INSTANTIATE_TEST_SUITE_P(
                     KeyedCase{"NoColon", u"X12", EmptyValue::Allowed, {}},
                     KeyedCase{"Empty", u"", EmptyValue::Allowed, {}}),
     kCaseName);
+
+TEST(FieldKeyTest, EqualsItselfOnly) {
+  EXPECT_TRUE(FieldKey(u"X") == u"X");
+  EXPECT_TRUE(FieldKey(u"EIGHTCHR") == u"EIGHTCHR");
+  for (const auto text : {u""sv, u"x"sv, u"Y"sv, u"XX"sv, u"X\0"sv, u"\0X"sv, u"\x0158"sv,
+                          u"\x5800"sv, u"NINECHARX"sv}) {
+    EXPECT_FALSE(FieldKey(text) == u"X");
+  }
+  EXPECT_FALSE(FieldKey(u"9EIGHTCHR") == u"EIGHTCHR");
+}
 
 TEST(UpToNulTest, EndsAtTheFirstNul) {
   EXPECT_EQ(UpToNul(u"a\0b\0"sv), u"a");

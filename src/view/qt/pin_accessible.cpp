@@ -12,12 +12,13 @@ namespace {
 
 /// What a screen reader shall say of a name: its letters. Which of them are overlined is said in
 /// words.
-std::u16string Letters(std::u16string name) {
-  for (char16_t& c : name) c = static_cast<char16_t>(c & ~SCompPin::kOverline);
-  return name;
+std::u16string Letters(std::u16string_view name) {
+  std::u16string letters(name);
+  for (char16_t& c : letters) c = static_cast<char16_t>(c & ~SCompPin::kOverline);
+  return letters;
 }
 
-bool HasOverline(const std::u16string& name) {
+bool HasOverline(std::u16string_view name) {
   return std::any_of(name.begin(), name.end(),
                      [](char16_t c) { return (c & SCompPin::kOverline) != 0; });
 }

@@ -115,7 +115,7 @@ TEST_F(PinGridEditingTest, NameThatCannotBeTypedStaysAsItIsWhenUntouched) {
   std::u16string typed = u"\x3042";
   while (typed.size() < 500) typed += u"\\\x01";
   SComponent component = MakeComponent({{PinSide::Left, 1, typed}});
-  const std::u16string name = component.Pins().front().Name();
+  const std::u16string name(component.Pins().front().Name());
   ASSERT_EQ(name.front(), u'\x3042');
   Open(std::move(component));
   Grid().Click(0, kName);
