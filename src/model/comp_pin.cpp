@@ -9,6 +9,9 @@
 namespace mivo {
 namespace {
 
+// Without it, the length of a literal is counted each time.
+using namespace std::string_view_literals;
+
 constexpr std::u16string_view kSideLetters = u"LTRB";
 
 struct TypeLetter {
@@ -113,13 +116,13 @@ bool SCompPin::TakeName(std::u16string_view text) {
 }
 
 bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
-  const SRecordReader::RecordScope scope(reader, u"+PIN");
+  const SRecordReader::RecordScope scope(reader, u"+PIN"sv);
   *this = SCompPin(blockCount);
   std::int32_t nextNumber = 0;
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
     if (field.starts_with(u'-')) {
-      if (field == u"-PIN") return true;
+      if (field == u"-PIN"sv) return true;
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
     }
@@ -157,9 +160,10 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
 bool SCompPin::Write(SRecordWriter& writer) const {
   std::u16string place(1, kSideLetters[static_cast<std::size_t>(location.side)]);
   place.append(IntText(location.offset));
-  std::u16string letters;
+  std::array<char16_t, kTypeLetters.size()> letters;
+  std::size_t letterCount = 0;
   for (const TypeLetter& entry : kTypeLetters) {
-    if ((type & entry.bit) != 0) letters.push_back(entry.letter);
+    if ((type & entry.bit) != 0) letters[letterCount++] = entry.letter;
   }
   writer.WriteField(u"+PIN");
   if (IsPlain(Name())) {
@@ -169,7 +173,7 @@ bool SCompPin::Write(SRecordWriter& writer) const {
   }
   writer.WriteHex(u"DF", nameMask);
   writer.WriteText(u"L", place);
-  writer.WriteText(u"T", letters);
+  writer.WriteText(u"T", {letters.data(), letterCount});
   for (std::int32_t block = 0; block < NumberCount(); ++block) {
     writer.WriteText(u"M", GetNumber(block).value_or(u""));
   }

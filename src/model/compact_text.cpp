@@ -25,7 +25,7 @@ static_assert(sizeof(CompactText) == 16);
 
 char16_t* CompactText::Elsewhere() const noexcept {
   char16_t* memory;
-  std::memcpy(&memory, units_.data(), sizeof memory);
+  std::memcpy(&memory, &units_[1], sizeof memory);
   return memory;
 }
 
@@ -37,7 +37,7 @@ std::u16string_view CompactText::ViewElsewhere() const noexcept {
 void CompactText::AppendElsewhere(std::u16string_view text) {
   const std::u16string_view old = View();
   const std::size_t length = old.size() + text.size();
-  const bool wasElsewhere = length_ == kElsewhere;
+  const bool wasElsewhere = IsElsewhere();
   char16_t* memory = wasElsewhere ? Elsewhere() : nullptr;
   Header header{static_cast<std::uint32_t>(length), static_cast<std::uint32_t>(length)};
   if (wasElsewhere && length <= HeaderOf(memory).room) {
@@ -50,8 +50,8 @@ void CompactText::AppendElsewhere(std::u16string_view text) {
     std::copy(old.begin(), old.end(), larger + kHeaderUnits);
     if (wasElsewhere) delete[] memory;
     memory = larger;
-    std::memcpy(units_.data(), &memory, sizeof memory);
-    length_ = kElsewhere;
+    std::memcpy(&units_[1], &memory, sizeof memory);
+    units_[0] = kElsewhere;
   }
   std::copy(text.begin(), text.end(), memory + kHeaderUnits + old.size());
   std::memcpy(memory, &header, sizeof header);

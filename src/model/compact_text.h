@@ -17,40 +17,38 @@ class CompactText {
   CompactText() noexcept = default;
   explicit CompactText(std::u16string_view text) { Append(text); }
   CompactText(const CompactText& other) : CompactText(other.View()) {}
-  CompactText(CompactText&& other) noexcept
-      : length_(std::exchange(other.length_, 0)), units_(other.units_) {}
+  CompactText(CompactText&& other) noexcept : units_(std::exchange(other.units_, {})) {}
   CompactText& operator=(CompactText other) noexcept {
-    std::swap(length_, other.length_);
     std::swap(units_, other.units_);
     return *this;
   }
   ~CompactText() {
-    if (length_ == kElsewhere) delete[] Elsewhere();
+    if (IsElsewhere()) delete[] Elsewhere();
   }
 
   /// Appends `text`, which is no part of this one, in time with its length on the average.
   void Append(std::u16string_view text) {
-    if (length_ == kElsewhere || text.size() > kRoom - length_) return AppendElsewhere(text);
-    for (const char16_t c : text) units_[length_++] = c;
+    if (IsElsewhere() || text.size() > kRoom - units_[0]) return AppendElsewhere(text);
+    for (const char16_t c : text) units_[++units_[0]] = c;
   }
 
-  /// Valid until the text is assigned to, moved or destroyed.
+  /// Valid until the text is assigned to, appended to, moved or destroyed.
   [[nodiscard]] std::u16string_view View() const noexcept {
-    return length_ == kElsewhere ? ViewElsewhere() : std::u16string_view(units_.data(), length_);
+    return IsElsewhere() ? ViewElsewhere() : std::u16string_view(&units_[1], units_[0]);
   }
 
   bool operator==(const CompactText& other) const noexcept { return View() == other.View(); }
 
  private:
-  static constexpr std::uint16_t kElsewhere = 0xFFFF;
+  static constexpr char16_t kElsewhere = 0xFFFF;
 
+  [[nodiscard]] bool IsElsewhere() const noexcept { return units_[0] == kElsewhere; }
   [[nodiscard]] char16_t* Elsewhere() const noexcept;
   [[nodiscard]] std::u16string_view ViewElsewhere() const noexcept;
   void AppendElsewhere(std::u16string_view text);
 
-  std::uint16_t length_ = 0;
-  // The characters; or, of a text elsewhere, the bytes of the pointer to it.
-  std::array<char16_t, kRoom> units_{};
+  // The length and the characters; or kElsewhere and the bytes of a pointer.
+  std::array<char16_t, 1 + kRoom> units_{};
 };
 
 }  // namespace mivo

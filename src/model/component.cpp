@@ -11,6 +11,9 @@
 namespace mivo {
 namespace {
 
+// Without it, the length of a literal is counted each time.
+using namespace std::string_view_literals;
+
 /// What a pin takes in memory while the pins of a record are collected: room that grows by
 /// doubling.
 constexpr std::size_t kPinCost = 3 * sizeof(SCompPin);
@@ -97,7 +100,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
   const auto isSized = [&] { return size_.x >= 1 && size_.y >= 1 && pending.blockCount >= 1; };
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
-    if (field == u"+PIN") {
+    if (field == u"+PIN"sv) {
       if (!isSized()) {
         reader.Report(FindingKind::PinBeforeSize, field);
         return false;
@@ -106,7 +109,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
       if (!reader.Afford(kPinCost)) return false;
     } else if (field.starts_with(u'+')) {
       if (!reader.SkipUnknownRecord(field)) return false;
-    } else if (field == u"-COMP") {
+    } else if (field == u"-COMP"sv) {
       if (!pending.context.name.empty() && isSized()) return true;
       reader.Report(FindingKind::IncompleteRecord, field);
       return false;
@@ -122,7 +125,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
 }
 
 bool SComponent::Read(SRecordReader& reader, ReadContext& context) {
-  const SRecordReader::RecordScope scope(reader, u"+COMP");
+  const SRecordReader::RecordScope scope(reader, u"+COMP"sv);
   *this = SComponent();
   context.name.clear();
   context.patternName.clear();

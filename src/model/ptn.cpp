@@ -9,6 +9,9 @@
 namespace mivo {
 namespace {
 
+// Without it, the length of a literal is counted each time.
+using namespace std::string_view_literals;
+
 /// What a drawing object takes in memory, roughly.
 constexpr std::size_t kObjectCost = 96;
 
@@ -55,18 +58,18 @@ SPtn& SPtn::operator=(const SPtn& other) {
 }
 
 bool SPtn::Read(SRecordReader& reader, BitPatternBudget& budget) {
-  const SRecordReader::RecordScope scope(reader, u"+PTN");
+  const SRecordReader::RecordScope scope(reader, u"+PTN"sv);
   bitPattern.reset();
   objects.clear();
   bool named = false;
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
-    if (field == u"-PTN") return CheckSize(reader, budget, *this);
+    if (field == u"-PTN"sv) return CheckSize(reader, budget, *this);
     if (field.starts_with(u'-')) {
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
     }
-    if (field == u"+BMP") {
+    if (field == u"+BMP"sv) {
       if (!ReadBitPattern(reader, budget, named, *this)) return false;
     } else if (field.starts_with(u'+')) {
       if (std::unique_ptr<SPtnObj> object = CreatePtnObj(field)) {

@@ -49,8 +49,10 @@ class SRecordWriter {
  private:
   FieldStatus BeginField();
   FieldStatus PutEscaped(std::u16string_view text);
-  /// For a file target; the buffer has room. False when a NUL ended the text.
-  bool PutEscapedBytes(std::u16string_view text);
+  /// For a file target: where to put `units` characters, however they are written.
+  char* Room(std::size_t units);
+  /// Takes what was put there, up to `end`.
+  FieldStatus Filled(const char* end);
   FieldStatus Put(char16_t character);
 
   ByteSink* sink_ = nullptr;
