@@ -20,4 +20,17 @@ NativeFile NativeFile::Borrowed(std::intptr_t handle) noexcept {
   return file;
 }
 
+std::string OpenRegularFile(const std::filesystem::path& path, NativeFile& file) {
+  if (const auto error = NativeFile::OpenToRead(path, file)) return SystemMessage(error);
+  switch (file.GetKind()) {
+    case NativeFile::Kind::Regular:
+      return {};
+    case NativeFile::Kind::Directory:
+      return SystemMessage(std::make_error_code(std::errc::is_a_directory));
+    case NativeFile::Kind::Other:
+      break;
+  }
+  return "Not a regular file";
+}
+
 }  // namespace mivo

@@ -80,6 +80,9 @@ class NativeFile {
   bool owned_ = true;
 };
 
+/// Opens what ReadFile and FileSource read. Returns why that is refused, or nothing.
+[[nodiscard]] std::string OpenRegularFile(const std::filesystem::path& path, NativeFile& file);
+
 /// The file at the end of the chain of symbolic links that starts at `path`; need not exist.
 [[nodiscard]] std::filesystem::path FinalTarget(const std::filesystem::path& path);
 

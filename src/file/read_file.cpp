@@ -6,6 +6,7 @@
 #include <span>
 #include <stdexcept>
 #include <system_error>
+#include <utility>
 
 #include "native_file.h"
 
@@ -53,12 +54,9 @@ FileResult<std::string> Read(NativeFile& file, std::size_t expected, ProgressSin
 
 FileResult<std::string> ReadFile(const std::filesystem::path& path, ProgressSink* progress) {
   NativeFile file;
-  if (const auto error = NativeFile::OpenToRead(path, file)) return FileError{SystemMessage(error)};
-  const NativeFile::Kind kind = file.GetKind();
-  if (kind == NativeFile::Kind::Directory) {
-    return FileError{SystemMessage(std::make_error_code(std::errc::is_a_directory))};
+  if (std::string error = OpenRegularFile(path, file); !error.empty()) {
+    return FileError{std::move(error)};
   }
-  if (kind != NativeFile::Kind::Regular) return FileError{"Not a regular file"};
   return Read(file, file.SizeHint(), progress);
 }
 

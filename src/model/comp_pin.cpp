@@ -13,6 +13,8 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::u16string_view kSideLetters = u"LTRB";
+/// SCompPin::kWholeNameShown, as it is written.
+constexpr std::u16string_view kWholeNameText = u"FFFFFFFF";
 
 struct TypeLetter {
   char16_t letter;
@@ -138,7 +140,8 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
         reader.Report(FindingKind::NotCanonical, field);
       }
     } else if (keyed->key == u"DF") {
-      nameMask = ParseHex(keyed->value);
+      // Nearly all names are shown whole.
+      nameMask = keyed->value == kWholeNameText ? kWholeNameShown : ParseHex(keyed->value);
     } else if (keyed->key == u"L") {
       ReadLocation(reader, keyed->value, location);
     } else if (keyed->key == u"T") {

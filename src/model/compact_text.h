@@ -29,7 +29,9 @@ class CompactText {
   /// Appends `text`, which is no part of this one, in time with its length on the average.
   void Append(std::u16string_view text) {
     if (IsElsewhere() || text.size() > kRoom - units_[0]) return AppendElsewhere(text);
-    for (const char16_t c : text) units_[++units_[0]] = c;
+    char16_t* end = &units_[1] + units_[0];
+    for (const char16_t c : text) *end++ = c;
+    units_[0] = static_cast<char16_t>(units_[0] + text.size());
   }
 
   /// Valid until the text is assigned to, appended to, moved or destroyed.

@@ -1,7 +1,10 @@
 #include "mivo_doc.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
+#include <span>
+#include <utility>
 
 #include "library_reader.h"
 #include "library_writer.h"
@@ -12,6 +15,40 @@ namespace mivo {
 namespace {
 
 constexpr std::int32_t kVersionOfFilesWithoutOne = 70;
+
+/// A source whose first bytes can be read twice.
+class PeekedSource final : public ByteSource {
+ public:
+  explicit PeekedSource(ByteSource& source) : source_(source) {}
+
+  [[nodiscard]] std::size_t Read(std::span<char> into) override {
+    if (isPeeking_) {
+      const std::size_t count = source_.Read(into);
+      peeked_.append(into.data(), count);
+      return count;
+    }
+    const std::size_t count = peeked_.copy(into.data(), into.size(), again_);
+    again_ += count;
+    return count > 0 ? count : source_.Read(into);
+  }
+
+  /// The next byte is the first one once more, for the last time.
+  void Rewind() noexcept { isPeeking_ = false; }
+
+  /// Everything, first bytes and all. In place of reading.
+  [[nodiscard]] std::string TakeAll() {
+    std::string bytes = std::move(peeked_);
+    std::array<char, 1 << 16> piece;
+    while (const std::size_t count = source_.Read(piece)) bytes.append(piece.data(), count);
+    return bytes;
+  }
+
+ private:
+  ByteSource& source_;
+  std::string peeked_;
+  std::size_t again_ = 0;  // how many of them have been read for the second time
+  bool isPeeking_ = true;
+};
 
 /// What the first fields of a file say.
 struct FileHead {
@@ -30,8 +67,7 @@ std::u16string Decoded(std::u16string_view field) {
 
 /// Looks at the fields up to the version, which decides how the file is decoded; so it is read
 /// before anything is decoded. Nothing when the content is no library or schematic.
-std::optional<FileHead> PeekHead(std::string_view bytes, FindingSink* sink) {
-  MemoryByteSource source(bytes);
+std::optional<FileHead> PeekHead(ByteSource& source, FindingSink* sink) {
   SRecordReader reader;
   reader.AttachFile(source, ByteDecoding::SignExtended);
   std::u16string_view field;
@@ -70,12 +106,12 @@ void SMivoDoc::Clear() {
   path_.reset();
 }
 
-bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink,
-                    ProgressSink* progress) {
+bool SMivoDoc::Load(ByteSource& source, std::uint64_t size, std::u16string_view path,
+                    FindingSink* sink, ProgressSink* progress) {
   if (path_) return false;
   SRecordReader reader;
   try {
-    return ReadContent(reader, bytes, path, sink, progress);
+    return ReadContent(reader, source, size, path, sink, progress);
   } catch (const std::bad_alloc&) {
     // Half a library in the last of the memory is of no use to anybody.
     Clear();
@@ -86,31 +122,42 @@ bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSin
   }
 }
 
-bool SMivoDoc::ReadContent(SRecordReader& reader, std::string_view bytes, std::u16string_view path,
-                           FindingSink* sink, ProgressSink* progress) {
-  const std::optional<FileHead> head = PeekHead(bytes, sink);
+bool SMivoDoc::ReadContent(SRecordReader& reader, ByteSource& source, std::uint64_t size,
+                           std::u16string_view path, FindingSink* sink, ProgressSink* progress) {
+  PeekedSource peeked(source);
+  const std::optional<FileHead> head = PeekHead(peeked, sink);
   if (!head) return false;
   version_ = head->version;
 
-  MemoryByteSource source(bytes);
+  const bool isOld = version_ < kFirstUtf8Version;
+  std::string whole = isOld || head->isSchematic ? peeked.TakeAll() : std::string();
+  const bool isCutOff = head->isSchematic && !HasSchematicEnd(whole);
+  MemoryByteSource wholeSource(whole);
   std::u16string decoded;
-  if (version_ < kFirstUtf8Version) {
-    decoded = DecodeSystemCodePage(bytes);
+  if (isOld) {
+    decoded = DecodeSystemCodePage(whole);
+    std::string().swap(whole);
     reader.SetProgress(progress, decoded.size());
     reader.AttachString(decoded);
   } else {
-    reader.SetProgress(progress, bytes.size());
-    reader.AttachFile(source, ByteDecoding::Utf8);
+    peeked.Rewind();
+    reader.SetProgress(progress, size);
+    reader.AttachFile(head->isSchematic ? static_cast<ByteSource&>(wholeSource) : peeked,
+                      ByteDecoding::Utf8);
   }
   // A schematic without components has no library block.
   const bool hasBlock = reader.SkipToField(kLibraryTag) == FieldStatus::Ok;
   reader.SetSink(sink);
   if (hasBlock && !ReadBody(reader, BodyExtent::Whole)) return false;
-  if (head->isSchematic && !HasSchematicEnd(bytes)) {
-    reader.Report(FindingKind::DataCutOff, kSchematicTag);
-  }
+  if (isCutOff) reader.Report(FindingKind::DataCutOff, kSchematicTag);
   path_ = path;
   return true;
+}
+
+bool SMivoDoc::Load(std::string_view bytes, std::u16string_view path, FindingSink* sink,
+                    ProgressSink* progress) {
+  MemoryByteSource source(bytes);
+  return Load(source, bytes.size(), path, sink, progress);
 }
 
 bool SMivoDoc::ReadBody(SRecordReader& reader, BodyExtent extent) {

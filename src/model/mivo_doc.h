@@ -37,7 +37,12 @@ class SMivoDoc {
   /// Reads the content of a library or schematic file and, when that succeeds, takes `path` as the
   /// library's path. False when there is a path already or the content is malformed; what was read
   /// before the fault stays in the library. False as well, with the library empty, when the memory
-  /// does not suffice. `progress` hears how much was read, and must leave the library alone.
+  /// does not suffice. `progress` hears how many bytes of `size` were read, and must leave the
+  /// library alone. A library in UTF-8 is read as it comes, anything else is fetched whole; where a
+  /// NUL ends the data, the source is left in the middle.
+  [[nodiscard]] bool Load(ByteSource& source, std::uint64_t size, std::u16string_view path,
+                          FindingSink* sink = nullptr, ProgressSink* progress = nullptr);
+  /// The same with a content in memory.
   [[nodiscard]] bool Load(std::string_view bytes, std::u16string_view path,
                           FindingSink* sink = nullptr, ProgressSink* progress = nullptr);
 
@@ -79,7 +84,7 @@ class SMivoDoc {
   std::u16string property;
 
  private:
-  [[nodiscard]] bool ReadContent(SRecordReader& reader, std::string_view bytes,
+  [[nodiscard]] bool ReadContent(SRecordReader& reader, ByteSource& source, std::uint64_t size,
                                  std::u16string_view path, FindingSink* sink,
                                  ProgressSink* progress);
 

@@ -30,6 +30,7 @@ class FieldKey {
   static constexpr std::uint64_t kUnknown = 0;
 
   static constexpr std::uint64_t Code(std::u16string_view text) noexcept {
+    if (text.size() == 1) return text[0] < 0x80 ? text[0] : kUnknown;  // as most are
     std::uint64_t code = 0;
     if (text.size() > sizeof code) return kUnknown;
     bool isKnowable = true;

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "byte_streams.h"
 #include "case_name.h"
 #include "library_testing.h"
 
@@ -257,6 +258,25 @@ TEST(LibraryNames, AreMadeUnique) {
                                           ComponentRecord(u"R") + ComponentRecord(u"R(1)")));
   EXPECT_TRUE(library.loaded);
   EXPECT_THAT(library.Names(), ElementsAre(u"R", u"R(1)", u"R(2)", u"R(3)"));
+}
+
+TEST(LibrarySource, ReadsAlikeInPiecesOfAnySize) {
+  const std::string utf8 = LibraryFile(ComponentRecord(u"A", u"NOTE:\x20AC%20\xE9") +
+                                       ComponentRecord(u"A", u"P:none") + u"+X,-X\n");
+  const std::string old = "+TARSL_LIB_V.1.0\nVER:70\n+COMP,N:\xE9,X:1,Y:1,B:1,-COMP\n";
+  const std::string schematic = "+TARSL_DATA_V.1.0\n+WIRE,a\xFF,-WIRE\n" + utf8;
+  for (const std::string& bytes : {utf8, old, schematic, schematic + "-TARSL_DATA_V.1.0\n",
+                                   std::string("none"), std::string()}) {
+    const LoadedLibrary whole(bytes);
+    for (const std::size_t pieceBytes : {std::size_t{1}, std::size_t{3}, PieceSource::kWhole}) {
+      PieceSource source(bytes, pieceBytes);
+      SMivoDoc library;
+      CollectedFindings findings;
+      EXPECT_EQ(library.Load(source, bytes.size(), u"test.ZLB", &findings), whole.loaded);
+      EXPECT_EQ(Saved(library), Saved(whole.library)) << pieceBytes;
+      EXPECT_EQ(findings.all, whole.findings.all) << pieceBytes;
+    }
+  }
 }
 
 }  // namespace
