@@ -4,7 +4,6 @@
 // to drawing a line. Fails when one takes more than 2 seconds.
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <optional>
@@ -14,6 +13,7 @@
 #include "component_renderer.h"
 #include "hostile_library.h"
 #include "mivo_doc.h"
+#include "table_row.h"
 #include "view_coordinates.h"
 
 namespace mivo::bench {
@@ -76,29 +76,26 @@ double SecondsOfDrawing(const std::string& file) {
 }
 
 bool DrawsInTime() {
-  std::printf("\nDrawing an object at every zoom; CPU time, shortest of %d\n", kRounds);
-  std::printf("%-28s %9s %9s\n", "object", "ms", "/ line");
   const double line = SecondsOfDrawing(LibraryWith(HostileObjects().front()));
   bool inTime = true;
   for (const HostileObject& object : HostileObjects()) {
     const double seconds = SecondsOfDrawing(LibraryWith(object));
-    std::printf("%-28s %9.3f %9.2f\n", object.name, seconds * 1e3, seconds / line);
+    PrintRow({std::string("draw at every zoom: ") + object.name, 1000 * seconds, "ms",
+              seconds / line, "a line"});
     inTime = inTime && seconds <= kLimitSeconds;
   }
   return inTime;
 }
 
 bool LoadsInTime() {
-  std::printf("Loading 10 MB of hostile records; CPU time, shortest of %d\n", kRounds);
-  std::printf("%-28s %9s %9s %12s\n", "records", "seconds", "/ look", "/ half of it");
   bool inTime = true;
   for (const HostileCase& hostile : HostileCases()) {
     const std::string file = HostileLibrary(hostile, kBytes);
     const double seconds = SecondsOfLoading(file);
     const double half = SecondsOfLoading(HostileLibrary(hostile, kBytes / 2));
-    std::printf("%-28s %9.3f %9.1f %12.2f\n", hostile.name, seconds,
-                seconds / SecondsOfLooking(file), seconds / half);
-    std::fflush(stdout);
+    const std::string what = std::string("load 10 MB of ") + hostile.name;
+    PrintRow({what, 1000 * seconds, "ms", seconds / SecondsOfLooking(file), "a look"});
+    PrintRow({what, 1000 * seconds, "ms", seconds / half, "half of it"});
     inTime = inTime && seconds <= kLimitSeconds;
   }
   return inTime;

@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -17,6 +16,7 @@
 #include "pin_props.h"
 #include "qt_surface.h"
 #include "silent_ports.h"
+#include "table_row.h"
 
 namespace mivo::bench {
 namespace {
@@ -92,7 +92,8 @@ struct Bench {
 };
 
 void Report(const char* what, double milliseconds, double fill) {
-  std::printf("%-44s %9.3f %10.2f\n", what, milliseconds, milliseconds / fill);
+  PrintRow(
+      {std::string("table of pins: ") + what, milliseconds, "ms", milliseconds / fill, "fill"});
 }
 
 void Measure() {
@@ -104,9 +105,7 @@ void Measure() {
   });
   QImage grid(bench.grid->size(), QImage::Format_RGB32);
   const double fill = MedianMilliseconds([&](int round) { grid.fill(round); });
-  std::printf("%d pins of %d blocks, table of %d x %d: fill %.3f ms\n", kPins, kBlocks,
-              grid.width(), grid.height(), fill);
-  std::printf("%-44s %9s %10s\n", "", "ms", "/ fill");
+  Report("fill an image of its size", fill, fill);
   Report("load the component", load, fill);
   Report("open the window and draw it", open, fill);
   Report("draw it again", MedianMilliseconds([&](int) { bench.Draw(); }), fill);

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -17,6 +16,7 @@
 #include "library_guard.h"
 #include "path_text.h"
 #include "recovery_journal.h"
+#include "table_row.h"
 
 namespace mivo::bench {
 namespace {
@@ -32,19 +32,14 @@ double Milliseconds(const std::function<void()>& what) {
       .count();
 }
 
-struct Cost {
-  double median;
-  double worst;
-};
-
-Cost CostOf(std::vector<double> times) {
+double Median(std::vector<double> times) {
   std::sort(times.begin(), times.end());
-  return {times[times.size() / 2], times.back()};
+  return times[times.size() / 2];
 }
 
-void Print(const char* what, const Cost& without, const Cost& with) {
-  std::printf("%-40s %10.3f %10.3f %10.3f %10.3f\n", what, without.median, with.median,
-              with.median - without.median, with.worst);
+void Print(const char* what, double without, double with) {
+  PrintRow({std::string("safety, 1,000 components: ") + what, with, "ms", with / without,
+            "without safety"});
 }
 
 /// A library with one of its components under edit.
@@ -106,8 +101,8 @@ void MeasureOperations(const std::string& content, const std::filesystem::path& 
     }
   }
   journal.Discard();
-  Print("first operation after opening or saving", CostOf(without), CostOf(first));
-  Print("any other operation", CostOf(without), CostOf(with));
+  Print("first operation after opening or saving", Median(without), Median(first));
+  Print("any other operation", Median(without), Median(with));
 }
 
 void MeasureSaves(const std::string& content, const std::filesystem::path& folder,
@@ -133,7 +128,7 @@ void MeasureSaves(const std::string& content, const std::filesystem::path& folde
       if (!guard.Save(session.View(), *start.path).saved) std::exit(1);
     }));
   }
-  Print("save", CostOf(without), CostOf(with));
+  Print("save", Median(without), Median(with));
 }
 
 void MeasureAll() {
@@ -148,9 +143,6 @@ void MeasureAll() {
     if (!writer.Write(content) || !writer.Commit()) std::exit(1);
   }
   const RecoveryStart start{TextFromPath(file), IdentityOf(content)};
-  std::printf("Safety on a library of %d components, %.1f MB; milliseconds, medians\n", kComponents,
-              static_cast<double>(content.size()) / (1024.0 * 1024.0));
-  std::printf("%-40s %10s %10s %10s %10s\n", "", "without", "with", "added", "worst");
   MeasureOperations(content, folder, start);
   MeasureSaves(content, folder, start);
   std::filesystem::remove_all(folder);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "comp_edit_doc.h"
 #include "component.h"
 #include "ptn_obj_line.h"
+#include "table_row.h"
 
 namespace mivo::bench {
 namespace {
@@ -85,12 +85,9 @@ void Measure() {
   while (doc.CanUndo()) {
     times.push_back(Milliseconds([&] { doc.Undo(); }));
   }
-  std::printf("Undo among %zu elements with %d operations behind it\n", kElements, kOperations);
-  std::printf("%-44s %9s %14s\n", "", "ms", "/ fill + copy");
-  std::printf("%-44s %9.3f %14.4f\n", "fill and copy of a 3840 x 2160 image", image, 1.0);
-  std::printf("%-44s %9.3f %14.4f\n", "first, skipping 1000 numbers without a trace", first,
-              first / image);
-  std::printf("%-44s %9.3f %14.4f\n", "median of the others", Median(times), Median(times) / image);
+  PrintRow({"undo among 10,000 elements, the first", first, "ms", first / image, "fill + copy"});
+  const double other = Median(times);
+  PrintRow({"undo among 10,000 elements, others", other, "ms", other / image, "fill + copy"});
 }
 
 }  // namespace

@@ -3,78 +3,22 @@
 // measured.
 
 #include <QGuiApplication>
-#include <algorithm>
-#include <cstdio>
+#include <array>
 #include <cstdlib>
-#include <memory>
-#include <vector>
+#include <string>
 
 #include "comp_editor.h"
+#include "drawn_component.h"
 #include "median.h"
-#include "ptn_obj_arc.h"
-#include "ptn_obj_circle.h"
-#include "ptn_obj_line.h"
-#include "ptn_obj_polygon.h"
-#include "ptn_obj_text.h"
 #include "qt_surface.h"
 #include "silent_ports.h"
+#include "table_row.h"
 
 namespace mivo::bench {
 namespace {
 
 constexpr PixelSize kScreen{3840, 2160};
-
-std::unique_ptr<SPtnObj> MakeObject(std::int32_t index, SPoint at) {
-  switch (index % 5) {
-    case 0: {
-      auto line = std::make_unique<SPtnObjLine>();
-      line->SetStart(at);
-      line->SetEnd({at.x + 30, at.y + 17});
-      line->width = 1 + index % 2;
-      return line;
-    }
-    case 1:
-      return std::make_unique<SPtnObjCircle>(at, SPoint{at.x + 24, at.y + 16});
-    case 2: {
-      auto polygon = std::make_unique<SPtnObjPolygon>(std::vector<SPoint>{
-          at, {at.x + 20, at.y + 4}, {at.x + 14, at.y + 22}, {at.x - 6, at.y + 12}});
-      polygon->fill = index % 2 == 0 ? SPtnObj::kFilled : SPtnObj::kNotFilled;
-      return polygon;
-    }
-    case 3: {
-      auto arc = std::make_unique<SPtnObjArc>();
-      arc->SetCenter(at);
-      arc->SetRadius(12);
-      return arc;
-    }
-    default: {
-      auto text = std::make_unique<SPtnObjText>();
-      text->SetPosition(at);
-      text->SetText(u"Label");
-      return text;
-    }
-  }
-}
-
-SComponent MakeComponent(SPoint cells, std::int32_t pins, std::int32_t objects) {
-  SComponent component;
-  component.SetSize(cells, true, true);
-  std::vector<SCompPin> list;
-  for (std::int32_t i = 0; i < pins; ++i) {
-    SCompPin pin(1);
-    pin.SetNameFromDisplayText(u"PA1/\\RX");
-    pin.SetNumber(0, u"101");
-    pin.location = {i % 2 == 0 ? PinSide::Left : PinSide::Right, i / 2 + 1};
-    list.push_back(std::move(pin));
-  }
-  component.SetPins(std::move(list));
-  const std::int32_t columns = std::max(1, cells.x / 4);
-  for (std::int32_t i = 0; i < objects; ++i) {
-    const SPoint at = {20 + i % columns * 38, 20 + i / columns * 30 % (cells.y * 10 - 40)};
-    component.MutablePattern()->objects.push_back(MakeObject(i, at));
-  }
-  return component;
-}
+constexpr int kZooms = 4;
 
 RasterImage MakeImage() {
   auto image = RasterImage::Create(kScreen, ImageDepth::Color);
@@ -114,7 +58,7 @@ void SelectVisibleLine(CompEditor& editor) {
 }
 
 void MeasureDrawing() {
-  SComponent component = MakeComponent({110, 104}, 200, 500);
+  SComponent component = MakeDrawnComponent({110, 104}, 200, 500);
   Bench bench;
   bench.editor.Resize(kScreen, 1.0);
   bench.editor.SetComponent(&component);
@@ -124,9 +68,10 @@ void MeasureDrawing() {
     }
   });
   const double copy = MedianMilliseconds([&](int) { bench.CopyBack(); });
-  std::printf("3840 x 2160 image: fill %.2f ms, copy %.2f ms\n", fill, copy);
-  std::printf("%-5s %14s %8s %14s %8s\n", "zoom", "redraw ms", "/ fill", "drag step ms", "/ copy");
-  for (int zoom = 0; zoom < 4; ++zoom) {
+  PrintRow({.what = "fill an image of 3840 x 2160", .measured = fill, .unit = "ms"});
+  PrintRow({.what = "copy it", .measured = copy, .unit = "ms"});
+  for (int zoom = 0; zoom < kZooms; ++zoom) {
+    const std::int32_t factor = bench.editor.Coordinates().Scale().factor;
     const double redraw = MedianMilliseconds(
         [&](int) { bench.editor.PaintBack(*bench.surfaces.CreateSurface(bench.back)); });
     SelectVisibleLine(bench.editor);
@@ -134,14 +79,32 @@ void MeasureDrawing() {
       bench.CopyBack();
       bench.editor.PaintFront(*bench.surfaces.CreateSurface(bench.front));
     });
-    std::printf("%-5d %14.2f %8.2f %14.2f %8.2f\n", bench.editor.Coordinates().Scale().factor,
-                redraw, redraw / fill, drag, drag / copy);
+    const std::string zoomText = " at zoom " + std::to_string(factor);
+    PrintRow(
+        {"full redraw, 200 pins, 500 objects," + zoomText, redraw, "ms", redraw / fill, "fill"});
+    PrintRow({"drag step," + zoomText, drag, "ms", drag / copy, "copy"});
     bench.editor.Execute(Command::ZoomIn);
   }
 }
 
+/// What choosing another name in the list costs.
+void MeasureComponentChange() {
+  std::array<SComponent, 2> components = {MakeDrawnComponent({110, 104}, 200, 0),
+                                          MakeDrawnComponent({110, 104}, 200, 0)};
+  Bench bench;
+  bench.editor.Resize(kScreen, 1.0);
+  const double change = MedianMilliseconds([&](int round) {
+    bench.editor.SetComponent(&components[static_cast<std::size_t>(round) % components.size()]);
+    bench.editor.PaintBack(*bench.surfaces.CreateSurface(bench.back));
+  });
+  PrintRow({.what = "change to a component of 200 pins, and redraw",
+            .measured = change,
+            .unit = "ms",
+            .limit = 10});
+}
+
 void MeasurePicking() {
-  SComponent component = MakeComponent({255, 255}, 0, 10000);
+  SComponent component = MakeDrawnComponent({255, 255}, 0, 10000);
   Bench bench;
   bench.editor.Resize(kScreen, 1.0);
   bench.editor.SetComponent(&component);
@@ -155,7 +118,8 @@ void MeasurePicking() {
     bench.editor.PressLeft(empty);
     bench.editor.ReleaseLeft(empty);
   });
-  std::printf("click among 10,000 objects: %.2f ms, on nothing %.2f ms\n", pick, miss);
+  PrintRow({.what = "click among 10,000 objects", .measured = pick, .unit = "ms"});
+  PrintRow({.what = "click on nothing among them", .measured = miss, .unit = "ms"});
 }
 
 }  // namespace
@@ -165,6 +129,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   mivo::bench::MeasureDrawing();
+  mivo::bench::MeasureComponentChange();
   mivo::bench::MeasurePicking();
   return 0;
 }

@@ -19,6 +19,7 @@
 #include "file_byte_sink.h"
 #include "generated_library.h"
 #include "measured_process.h"
+#include "table_row.h"
 
 namespace mivo::bench {
 namespace {
@@ -65,12 +66,6 @@ class Display {
   pid_t server_ = 0;
 };
 
-void PrintRow(const char* what, double baseline, double measured) {
-  std::printf("%-40s %10.1f %10.1f %8.2f\n", what, 1000 * baseline, 1000 * measured,
-              measured / baseline);
-  std::fflush(stdout);
-}
-
 void MeasureStart() {
   std::vector<ProcessCost> empty, word, parts, mivo;
   for (int round = 0; round < kStarts; ++round) {
@@ -79,18 +74,15 @@ void MeasureStart() {
     parts.push_back(RunMeasured({MIVO_BARE_WINDOW, "parts"}));
     mivo.push_back(RunMeasured({MIVO_WINDOW, "start", MIVO_SAMPLE_LIBRARY}));
   }
-  std::printf("To the first painted window, median of %d starts each\n", kStarts);
-  std::printf("%-40s %10s %10s %8s\n", "", "empty, ms", "this, ms", "ratio");
+  const auto print = [](const char* what, double seconds, double baseline) {
+    PrintRow({what, 1000 * seconds, "ms", seconds / baseline, "empty window"});
+  };
   const ProcessCost baseline = MedianCost(empty);
-  PrintRow("a window with two words, elapsed", baseline.elapsedSeconds,
-           MedianCost(word).elapsedSeconds);
-  PrintRow("a window with two words, processor", baseline.cpuSeconds, MedianCost(word).cpuSeconds);
-  PrintRow("a window with such parts, elapsed", baseline.elapsedSeconds,
-           MedianCost(parts).elapsedSeconds);
-  PrintRow("a window with such parts, processor", baseline.cpuSeconds,
-           MedianCost(parts).cpuSeconds);
-  PrintRow("Mivo, elapsed", baseline.elapsedSeconds, MedianCost(mivo).elapsedSeconds);
-  PrintRow("Mivo, processor", baseline.cpuSeconds, MedianCost(mivo).cpuSeconds);
+  print("start to the first window, elapsed", MedianCost(mivo).elapsedSeconds,
+        baseline.elapsedSeconds);
+  print("start to the first window, processor", MedianCost(mivo).cpuSeconds, baseline.cpuSeconds);
+  print("a window of two words, processor", MedianCost(word).cpuSeconds, baseline.cpuSeconds);
+  print("a window of such parts, processor", MedianCost(parts).cpuSeconds, baseline.cpuSeconds);
 }
 
 void MeasureOpen(const std::string& folder) {
@@ -110,9 +102,9 @@ void MeasureOpen(const std::string& folder) {
     open.push_back(seconds);
   }
   std::sort(open.begin(), open.end());
-  std::printf("\nOpening %d components, median of %d runs each\n", kComponents, kOpens);
-  std::printf("%-40s %10s %10s %8s\n", "", "list, ms", "open, ms", "ratio");
-  PrintRow("processor", MedianCost(list).cpuSeconds, open[open.size() / 2]);
+  const double seconds = open[open.size() / 2];
+  PrintRow({"open 100,000 components in the running window", 1000 * seconds, "ms",
+            seconds / MedianCost(list).cpuSeconds, "mivo-cli list"});
 }
 
 }  // namespace
