@@ -27,9 +27,6 @@ namespace {
 const QString kLibraryFiles = QStringLiteral(" (*.ZLB *.zlb)");
 const QString kSchematicFiles = QStringLiteral(" (*.ZSC *.zsc)");
 
-// The texts name the files themselves.
-constexpr QFileDialog::Option kFilterTexts = QFileDialog::HideNameFilterDetails;
-
 constexpr std::array<std::pair<QMessageBox::StandardButton, TextId>, 4> kButtonTexts = {{
     {QMessageBox::Ok, dialog_text::kOk},
     {QMessageBox::Cancel, dialog_text::kCancel},
@@ -54,22 +51,28 @@ int AskOver(const QWidget& frame, QMessageBox& box) {
   return box.exec();
 }
 
+/// What the user chooses; empty when that is nothing. A name without an extension is a library's.
+QString PathFrom(QFileDialog& dialog) {
+  dialog.setOption(QFileDialog::HideNameFilterDetails);  // the texts name the files themselves
+  dialog.setDefaultSuffix(QStringLiteral("ZLB"));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 }  // namespace
 
 QString DialogPrompts::AskOpenPath() {
   const QString schematics = ToQString(texts_.Text(StringId::SchematicFilter)) + kSchematicFiles;
-  return QFileDialog::getOpenFileName(&frame_, QString(), QString(),
-                                      LibraryFilter() + QStringLiteral(";;") + schematics, nullptr,
-                                      kFilterTexts);
+  QFileDialog dialog(&frame_, QString(), QString(),
+                     LibraryFilter() + QStringLiteral(";;") + schematics);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return PathFrom(dialog);
 }
 
 QString DialogPrompts::AskSavePath(const QString& proposed) {
   QFileDialog dialog(&frame_, QString(), QString(), LibraryFilter());
-  dialog.setOption(kFilterTexts);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("ZLB"));
   dialog.selectFile(proposed);
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+  return PathFrom(dialog);
 }
 
 QString DialogPrompts::LibraryFilter() const {

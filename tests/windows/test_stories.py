@@ -113,6 +113,14 @@ def test_the_native_dialog_makes_a_library_of_a_schematic(desktop, start, sample
     assert path.read_bytes() == schematic
 
 
+def test_the_native_dialog_opens_a_library(desktop, start, sample, folder):
+    path = sample("standard.ZLB")
+    mivo = start()
+    press_until(desktop, lambda: desktop.active_title() not in ("Mivo", None), "the dialog", "Ctrl+o")
+    desktop.input.type(windows_path(folder / "standard") + "\n")  # of the default extension
+    mivo.wait_window(title_of(path))
+
+
 def test_a_component_goes_to_notepad(desktop, start, run, sample, folder):
     path = sample("standard.ZLB")
     start(path.name, title=title_of(path))
