@@ -129,7 +129,7 @@ TEST_F(ManualWindowTest, PicturesAreAsWideAsTheTextAtMost) {
   const TextTable texts;
   auto* const window = new ManualWindow(texts, QStringLiteral(MIVO_MANUAL), nullptr);
   window->show();
-  for (const int width : {760, 400, 2000}) {
+  for (const int width : {760, 520, 2000}) {  // in which the tables have room
     window->resize(width, 600);
     QTextBrowser& text = TextOf(*window);
     ASSERT_TRUE(WaitUntil([&] { return text.width() == width; }));

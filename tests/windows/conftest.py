@@ -127,10 +127,11 @@ def user(desktop):
 
 @pytest.fixture
 def state(user):
-    """The folder in which Mivo keeps copies and what was not saved; empty."""
-    path = user / "AppData/Local/mivo"
-    shutil.rmtree(path, ignore_errors=True)
-    return path
+    """The folder in which Mivo keeps copies and what was not saved; empty. The user has no settings either."""
+    local = user / "AppData/Local"
+    for name in ("mivo", "HallvarnONLINE"):
+        shutil.rmtree(local / name, ignore_errors=True)
+    return local / "mivo"
 
 
 @pytest.fixture
