@@ -33,7 +33,7 @@ class MainFramePinGridTest : public FrameTest {
     return *Props()->findChild<CPinPropGrid*>(QStringLiteral("pinGrid"));
   }
   [[nodiscard]] std::u16string NameOf(int row) {
-    return Grid().Grid().Rows()[static_cast<std::size_t>(row)].pin->Name();
+    return std::u16string(Grid().Grid().Rows()[static_cast<std::size_t>(row)].pin->Name());
   }
   /// The locations of all rows, the selected one in brackets.
   [[nodiscard]] std::string Rows() {
