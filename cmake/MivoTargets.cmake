@@ -24,9 +24,6 @@ if(MIVO_SANITIZE)
   target_compile_definitions(mivo_build_flags INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
 endif()
-if(MIVO_FUZZ)
-  target_compile_options(mivo_build_flags INTERFACE -fsanitize=fuzzer-no-link)
-endif()
 
 # mivo_library(NAME SOURCES <cpp...> HEADERS <h...> LINK <targets...>)
 #
@@ -39,6 +36,9 @@ function(mivo_library name)
                                 ${ARG_HEADERS})
   set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ${MIVO_DEVELOPER})
   target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE mivo_build_flags ${ARG_PRIVATE_LINK})
+  if(MIVO_FUZZ) # lets the fuzz targets see which of its code they reach
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
 endfunction()
 
 # mivo_test(NAME SOURCES <cpp...> [POSIX_SOURCES <cpp...>] [WINDOWS_SOURCES <cpp...>] LINK
@@ -63,7 +63,7 @@ function(mivo_test name)
     qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
   endif()
   # A test is compiled far longer than it runs.
-  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+  target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1> $<$<CONFIG:Debug>:-O0>)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   if(CMAKE_CROSSCOMPILING) # a process of Wine for every single test would take far too long
     add_test(NAME ${name} COMMAND ${name})
