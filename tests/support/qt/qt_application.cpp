@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QStyle>
 #include <memory>
 
 namespace mivo {
@@ -14,6 +15,8 @@ class ApplicationEnvironment final : public testing::Environment {
     // The same look everywhere, whatever desktop the tests are run on.
     QApplication::setStyle(QStringLiteral("Fusion"));
     application_ = std::make_unique<QApplication>(argumentCount_, arguments_);
+    // A style from before the application would be nobody's once a test takes another one.
+    QApplication::style()->setParent(application_.get());
   }
   void TearDown() override { application_.reset(); }
 
