@@ -16,7 +16,6 @@ constexpr int kFontHeight = 13;
 constexpr int kAliasIndent = 10;
 constexpr int kMargin = 2;
 const QColor kAliasColor(255, 0, 0);
-const QColor kAliasColorOnDark(255, 110, 110);
 
 /// Draws a row by the list's own rules, whatever the desktop's style: names exactly as stored, and
 /// the other names of the selected component marked.
@@ -46,7 +45,7 @@ class NameDelegate final : public QStyledItemDelegate {
     QColor color = palette.color(isActive ? QPalette::HighlightedText : QPalette::Text);
     NameEntry* const entry = list_.Names().Entry(index.row());
     if (!isSelected && selected != nullptr && selected->Component() == entry->Component()) {
-      color = palette.color(QPalette::Base).lightness() < 128 ? kAliasColorOnDark : kAliasColor;
+      color = kAliasColor;
       textRect.setLeft(textRect.left() + kAliasIndent);
     }
     if (isSelected) DrawFocusFrame(*painter, option.rect, color);

@@ -26,6 +26,14 @@ def mivo(start, session, path):
     return mivo
 
 
+def end_with(mivo, session, answer):
+    session.end()
+    session.expect("asks")
+    mivo.message("Save changes?").click(answer)
+    session.expect("may end")
+    mivo.wait_end()
+
+
 def test_without_changes_it_ends(mivo, session):
     session.end()
     session.expect("asks")
@@ -43,22 +51,14 @@ def test_cancelled_then_saved(mivo, session, path):
     still_there(mivo, path, "Changed")
     assert path.read_bytes() == original
 
-    session.end()
-    session.expect("asks")
-    mivo.message("Save changes?").click("Yes")
-    session.expect("may end")
-    mivo.wait_end()
+    end_with(mivo, session, "Yes")
     assert is_saved(path, "Changed")
 
 
 def test_not_saved(mivo, session, path):
     original = path.read_bytes()
     change(mivo, "Changed")
-    session.end()
-    session.expect("asks")
-    mivo.message("Save changes?").click("No")
-    session.expect("may end")
-    mivo.wait_end()
+    end_with(mivo, session, "No")
     assert path.read_bytes() == original
 
 
