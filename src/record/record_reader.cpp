@@ -261,7 +261,9 @@ void SRecordReader::Report(FindingKind kind, std::u16string_view text) {
 
 bool SRecordReader::Afford(std::size_t bytes) {
   afforded_ += bytes;
-  if (afforded_ <= kAffordedAnyway + kAffordedPerCharacter * taken_) return true;
+  // A text is in the memory as well.
+  const std::uint64_t taken = afforded_ + (source_ == nullptr ? sizeof(char16_t) * taken_ : 0);
+  if (taken <= kAffordedAnyway + kAffordedPerCharacter * taken_) return true;
   Report(FindingKind::OutOfProportion, record_);
   return false;
 }

@@ -27,6 +27,33 @@ TEST(RecordReaderAttach, ReadsAnEmptyViewWithoutAnArray) {
   EXPECT_EQ(reader.Line(), 1);
 }
 
+/// Megabytes that records may take once these are read.
+std::size_t AffordedMegabytes(AttachedReader reader) {
+  while (reader.Next()) {
+  }
+  std::size_t count = 0;
+  while (reader->Afford(std::size_t{1} << 20)) ++count;
+  return count;
+}
+
+TEST(RecordReaderAfford, AllowsInProportionToWhatWasRead) {
+  const std::u16string megabyte(std::size_t{1} << 20, u'\n');
+  for (const Delivery& delivery : {kDeliveries[0], kDeliveries[3]}) {
+    const std::size_t anyway = AffordedMegabytes({u"", delivery});
+    const std::size_t withOne = AffordedMegabytes({megabyte, delivery});
+    EXPECT_GT(anyway, 0u);
+    EXPECT_LE(anyway, 64u);
+    EXPECT_GT(withOne, anyway);
+    EXPECT_EQ(AffordedMegabytes({megabyte + megabyte, delivery}) - withOne, withOne - anyway);
+  }
+}
+
+TEST(RecordReaderAfford, ATextInMemoryCounts) {
+  const std::u16string megabyte(std::size_t{1} << 20, u'\n');
+  EXPECT_EQ(AffordedMegabytes({megabyte, kDeliveries[0]}) + sizeof(char16_t),
+            AffordedMegabytes({megabyte, kDeliveries[3]}));
+}
+
 TEST(RecordReaderAttach, StartsAnewWithEachSource) {
   PieceSource first("a\nb\xC3", PieceSource::kWhole);  // the end cuts off a character
   PieceSource second("\xA9,d\n", PieceSource::kWhole);
