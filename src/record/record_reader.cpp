@@ -52,7 +52,7 @@ const char16_t* NextLow(const char16_t* from) {
     const __m128i eight = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
     const __m128i excess = _mm_subs_epu16(eight, _mm_set1_epi16(u','));
     const int low = _mm_movemask_epi8(_mm_cmpeq_epi16(excess, _mm_setzero_si128()));
-    if (low != 0) return from + std::countr_zero(static_cast<unsigned>(low)) / 2;
+    if (low != 0) return from + (std::countr_zero(static_cast<unsigned>(low)) >> 1);
   }
 #else
   while (*from > u',') ++from;
@@ -164,17 +164,25 @@ inline bool SRecordReader::SkipBlanks() {
   }
 }
 
+// Nearly every field begins where the one before it has ended and is a stretch of the window. What
+// else there is happens in calls at the very end, so that this way has no registers to save.
 FieldStatus SRecordReader::ReadField(std::u16string_view& field) {
-  if (!SkipBlanks()) {
-    field = {};
-    return window_ ? FieldStatus::End : ReadNothing(field);
-  }
+  const char16_t c = *current_;
+  return c > u' ' && c != kEndCharacter ? ReadFieldHere(field) : ReadFieldBehindBlanks(field);
+}
+
+FieldStatus SRecordReader::ReadFieldBehindBlanks(std::u16string_view& field) {
+  if (SkipBlanks()) return ReadFieldHere(field);
+  field = {};
+  return window_ ? FieldStatus::End : ReadNothing(field);
+}
+
+inline FieldStatus SRecordReader::ReadFieldHere(std::u16string_view& field) {
   const char16_t* const start = current_;
   fieldLine_ = line_;
   fieldColumn_ = start - window_.get() - lineAt_;
 
-  // Most fields are a stretch of the window; only an escape, an over-long field and one cut by the
-  // end of the window are put together elsewhere.
+  // An escape, an over-long field and one cut by the end of the window are put together elsewhere.
   const char16_t* const end = NextSpecial(start);
   const char16_t c = *end;
   const auto length = static_cast<std::size_t>(end - start);

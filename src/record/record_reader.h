@@ -119,6 +119,8 @@ class SRecordReader {
   char16_t GetCharacter();
   bool SkipBlanks();
   void CountLine() noexcept;
+  FieldStatus ReadFieldBehindBlanks(std::u16string_view& field);
+  FieldStatus ReadFieldHere(std::u16string_view& field);
   FieldStatus ReadNothing(std::u16string_view& field);
   FieldStatus CollectIntoScratch(std::u16string_view& field);
   bool AppendEscape();
