@@ -13,8 +13,6 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::u16string_view kSideLetters = u"LTRB";
-/// SCompPin::kWholeNameShown, as it is written.
-constexpr std::u16string_view kWholeNameText = u"FFFFFFFF";
 
 struct TypeLetter {
   char16_t letter;
@@ -124,7 +122,7 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
     if (field.starts_with(u'-')) {
-      if (field == u"-PIN"sv) return true;
+      if (IsText(field, u"-PIN")) return true;
       reader.Report(FindingKind::WrongClosingTag, field);
       return false;
     }
@@ -141,7 +139,7 @@ bool SCompPin::Read(SRecordReader& reader, std::int32_t blockCount) {
       }
     } else if (keyed->key == u"DF") {
       // Nearly all names are shown whole.
-      nameMask = keyed->value == kWholeNameText ? kWholeNameShown : ParseHex(keyed->value);
+      nameMask = IsText(keyed->value, u"FFFFFFFF") ? kWholeNameShown : ParseHex(keyed->value);
     } else if (keyed->key == u"L") {
       ReadLocation(reader, keyed->value, location);
     } else if (keyed->key == u"T") {

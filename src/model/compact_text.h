@@ -17,7 +17,7 @@ class CompactText {
   CompactText() noexcept = default;
   explicit CompactText(std::u16string_view text) { Append(text); }
   CompactText(const CompactText& other) : CompactText(other.View()) {}
-  CompactText(CompactText&& other) noexcept : units_(std::exchange(other.units_, {})) {}
+  CompactText(CompactText&& other) noexcept : units_(other.units_) { other.units_[0] = 0; }
   CompactText& operator=(CompactText other) noexcept {
     std::swap(units_, other.units_);
     return *this;

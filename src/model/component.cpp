@@ -100,7 +100,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
   const auto isSized = [&] { return size_.x >= 1 && size_.y >= 1 && pending.blockCount >= 1; };
   std::u16string_view field;
   while (reader.ReadField(field) == FieldStatus::Ok) {
-    if (field == u"+PIN"sv) {
+    if (IsText(field, u"+PIN")) {
       if (!isSized()) {
         reader.Report(FindingKind::PinBeforeSize, field);
         return false;
@@ -109,7 +109,7 @@ bool SComponent::ReadFields(SRecordReader& reader, PendingRecord& pending) {
       if (!reader.Afford(kPinCost)) return false;
     } else if (field.starts_with(u'+')) {
       if (!reader.SkipUnknownRecord(field)) return false;
-    } else if (field == u"-COMP"sv) {
+    } else if (IsText(field, u"-COMP")) {
       if (!pending.context.name.empty() && isSized()) return true;
       reader.Report(FindingKind::IncompleteRecord, field);
       return false;

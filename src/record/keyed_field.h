@@ -1,7 +1,9 @@
 #ifndef MIVO_RECORD_KEYED_FIELD_H
 #define MIVO_RECORD_KEYED_FIELD_H
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -64,6 +66,14 @@ enum class EmptyValue { Allowed, Refused };
   const std::u16string_view value(field.data() + colon + 1, field.size() - colon - 1);
   if (emptyValue == EmptyValue::Refused && value.empty()) return std::nullopt;
   return KeyedField{FieldKey({field.data(), colon}), value};
+}
+
+/// Whether `text` is `literal`. Texts are compared with == a character at a time; a literal of a
+/// few characters, of which a library has millions, all at once.
+template <std::size_t size>
+[[nodiscard]] bool IsText(std::u16string_view text, const char16_t (&literal)[size]) noexcept {
+  return text.size() == size - 1 &&
+         std::memcmp(text.data(), literal, (size - 1) * sizeof *literal) == 0;
 }
 
 /// The text up to its first NUL.

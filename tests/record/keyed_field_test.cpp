@@ -55,6 +55,15 @@ TEST(FieldKeyTest, EqualsItselfOnly) {
   EXPECT_FALSE(FieldKey(u"9EIGHTCHR") == u"EIGHTCHR");
 }
 
+TEST(IsTextTest, IsTrueForTheSameCharactersOnly) {
+  EXPECT_TRUE(IsText(u"-PIN", u"-PIN"));
+  EXPECT_TRUE(IsText(u"", u""));
+  for (const auto text : {u""sv, u"-PI"sv, u"-PINS"sv, u"-pIN"sv, u"-PI\0"sv, u"-PIN\0"sv,
+                          u"-PI\x014E"sv, u"NIP-"sv}) {
+    EXPECT_FALSE(IsText(text, u"-PIN"));
+  }
+}
+
 TEST(UpToNulTest, EndsAtTheFirstNul) {
   EXPECT_EQ(UpToNul(u"a\0b\0"sv), u"a");
   EXPECT_EQ(UpToNul(u"\0"sv), u"");
