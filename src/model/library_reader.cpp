@@ -15,6 +15,10 @@ constexpr std::size_t kAliasCost = 190;
 
 }  // namespace
 
+LibraryReader::LibraryReader(SMivoDoc& doc, SRecordReader& reader) : doc_(doc), reader_(reader) {
+  patterns_.max_load_factor(NameIndex::kFullness);
+}
+
 bool LibraryReader::ReadBody(SMivoDoc::BodyExtent extent) {
   std::u16string_view field;
   while (reader_.ReadField(field) == FieldStatus::Ok) {
@@ -58,8 +62,8 @@ bool LibraryReader::ReadPattern() {
   auto pattern = std::make_shared<SPtn>();
   if (!pattern->Read(reader_, bitPatternBudget_) || !reader_.Afford(kPatternCost)) return false;
   // Components name their pattern, so one without a name, or with a name taken, is out of reach.
-  std::u16string name = pattern->name;
-  if (name.empty() || !patterns_.emplace(name, std::move(pattern)).second) {
+  const std::u16string& name = pattern->name;
+  if (name.empty() || !patterns_.emplace(name, pattern).second) {
     reader_.Report(FindingKind::PatternUnused, name);
   }
   return true;
@@ -75,7 +79,7 @@ void LibraryReader::EmptyPatternPool() {
   patterns_.clear();
 }
 
-bool LibraryReader::GivePattern(SComponent& component, const std::u16string& name) {
+bool LibraryReader::GivePattern(SComponent& component, std::u16string_view name) {
   const auto found = patterns_.find(name);
   if (found == patterns_.end()) {
     reader_.Report(FindingKind::PatternMissing, name);

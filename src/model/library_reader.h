@@ -15,7 +15,7 @@ namespace mivo {
 /// components of that block name.
 class LibraryReader {
  public:
-  LibraryReader(SMivoDoc& doc, SRecordReader& reader) : doc_(doc), reader_(reader) {}
+  LibraryReader(SMivoDoc& doc, SRecordReader& reader);
 
   /// See SMivoDoc::ReadBody.
   [[nodiscard]] bool ReadBody(SMivoDoc::BodyExtent extent);
@@ -25,7 +25,7 @@ class LibraryReader {
   void EmptyPatternPool();
   [[nodiscard]] bool ReadComponent();
   /// False when the bit patterns of the components together become too large.
-  [[nodiscard]] bool GivePattern(SComponent& component, const std::u16string& name);
+  [[nodiscard]] bool GivePattern(SComponent& component, std::u16string_view name);
   [[nodiscard]] bool ReadAlias();
   void ReadKeyedField(std::u16string_view field);
   /// Reports an entry that could not be given the name that the file gives it.
@@ -33,8 +33,9 @@ class LibraryReader {
 
   SMivoDoc& doc_;
   SRecordReader& reader_;
-  // The first pattern of each name. Components share it until one of them is edited.
-  tsl::robin_map<std::u16string, std::shared_ptr<SPtn>> patterns_;
+  // The first pattern of each name, which is the pattern's own. Components share it until one of
+  // them is edited.
+  tsl::robin_map<std::u16string_view, std::shared_ptr<SPtn>> patterns_;
   BitPatternBudget bitPatternBudget_;
   SComponent::ReadContext component_;
 };

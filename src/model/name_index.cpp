@@ -48,7 +48,7 @@ std::u16string WithNumber(std::u16string_view base, std::int32_t number) {
 
 NameEntry* NameIndex::Find(std::u16string_view name) const {
   const auto found = byName_.find(name);
-  return found == byName_.end() ? nullptr : found->second;
+  return found == byName_.end() ? nullptr : *found;
 }
 
 std::u16string NameIndex::UniqueName(std::u16string_view name) {
@@ -86,26 +86,26 @@ std::int32_t NameIndex::FirstFree(std::u16string_view base, std::int32_t start) 
 
 NameEntry* NameIndex::AddIfFree(std::u16string_view name, SComponent* component) {
   auto entry = std::make_unique<NameEntry>(std::u16string(name), component);
-  if (!byName_.emplace(entry->name_, entry.get()).second) return nullptr;
+  if (!byName_.insert(entry.get()).second) return nullptr;
   return entries_.emplace_back(std::move(entry)).get();
 }
 
 NameEntry* NameIndex::Add(std::u16string name, SComponent* component) {
   NameEntry* const entry =
       entries_.emplace_back(std::make_unique<NameEntry>(std::move(name), component)).get();
-  byName_.emplace(entry->name_, entry);
+  byName_.insert(entry);
   return entry;
 }
 
 void NameIndex::Forget(const NameEntry& entry) {
   taken_.clear();
   const auto found = byName_.find(entry.name_);
-  if (found->second != &entry) return;
+  if (*found != &entry) return;
   byName_.erase(found);
   const auto successor = std::find_if(entries_.begin(), entries_.end(), [&](const auto& other) {
     return other.get() != &entry && other->name_ == entry.name_;
   });
-  if (successor != entries_.end()) byName_.emplace((*successor)->name_, successor->get());
+  if (successor != entries_.end()) byName_.insert(successor->get());
 }
 
 void NameIndex::Rename(NameEntry& entry, std::u16string name) {
@@ -114,7 +114,7 @@ void NameIndex::Rename(NameEntry& entry, std::u16string name) {
   const auto first = std::find_if(entries_.begin(), entries_.end(),
                                   [&](const auto& other) { return other->name_ == entry.name_; });
   byName_.erase(entry.name_);
-  byName_.emplace((*first)->name_, first->get());
+  byName_.insert(first->get());
 }
 
 void NameIndex::Remove(NameEntry& entry) {

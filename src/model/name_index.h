@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include <tsl/robin_map.h>
+#include <tsl/robin_set.h>
 
 #include "record_reader.h"
 
@@ -43,6 +43,11 @@ class NameIndex {
   /// The longest name that fits into a record's field with its key "N:".
   static constexpr std::size_t kMaxNumberedLength = SRecordReader::kMaxFieldLength - 2;
 
+  /// How full tables of names become before they grow, which takes twice the memory.
+  static constexpr float kFullness = 0.8F;
+
+  NameIndex() { byName_.max_load_factor(kFullness); }
+
   /// The first entry with exactly this name; null when there is none.
   [[nodiscard]] NameEntry* Find(std::u16string_view name) const;
 
@@ -71,13 +76,24 @@ class NameIndex {
   void Forget(const NameEntry& entry);
 
   std::vector<std::unique_ptr<NameEntry>> entries_;
-  using ByName =
-      tsl::robin_map<std::u16string_view, NameEntry*, std::hash<std::u16string_view>,
-                     std::equal_to<>, std::allocator<std::pair<std::u16string_view, NameEntry*>>,
-                     true>;  // with the hashes, which spare a look at most other names
+  struct NameHash {
+    using is_transparent = void;
+    std::size_t operator()(std::u16string_view name) const noexcept {
+      return std::hash<std::u16string_view>()(name);
+    }
+    std::size_t operator()(const NameEntry* entry) const noexcept {
+      return operator()(entry->Name());
+    }
+  };
+  struct SameName {
+    using is_transparent = void;
+    static std::u16string_view NameOf(std::u16string_view name) noexcept { return name; }
+    static std::u16string_view NameOf(const NameEntry* entry) noexcept { return entry->Name(); }
+    bool operator()(const auto& a, const auto& b) const noexcept { return NameOf(a) == NameOf(b); }
+  };
 
-  // The first entry of each name; the views point into the entries.
-  ByName byName_;
+  // The first entry of each name. With the hashes, which spare a look at most other names.
+  tsl::robin_set<NameEntry*, NameHash, SameName, std::allocator<NameEntry*>, true> byName_;
   // For each base name: numbers with which the name is known to be taken, each with a later number
   // that may be free; everything between the two is taken as well. Only additions keep this true.
   std::unordered_map<std::u16string, std::unordered_map<std::int32_t, std::int32_t>> taken_;
