@@ -1,5 +1,6 @@
 // So that nothing gets lost: the recovery file, and where the safety copies are.
 
+#include "canonical_path.h"
 #include "comp_edit_view.h"
 #include "lb_comp_name.h"
 #include "main_frame.h"
@@ -47,9 +48,10 @@ void CMainFrame::RecordChanges() {
 }
 
 bool CMainFrame::OfferRecovery(const QString& onlyOf) {
+  const std::filesystem::path only = CanonicalPath(PathFromText(ToText(onlyOf)));
   for (FoundRecovery& found : guard_.FindRecoveries()) {
     const std::optional<std::u16string>& path = found.library.file.path;
-    if (!onlyOf.isEmpty() && (!path || ToQString(*path) != onlyOf)) continue;
+    if (!onlyOf.isEmpty() && (!path || CanonicalPath(PathFromText(*path)) != only)) continue;
     switch (prompts_->AskRecovery(RecoveryQuestion(found))) {
       case RecoveryAnswer::Restore:
         Restore(found);

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "canonical_path.h"
 #include "file_writer.h"
 #include "native_file.h"
 
@@ -183,6 +184,14 @@ std::filesystem::path FinalTarget(const std::filesystem::path& path) {
     target = target.parent_path() / next;  // an absolute `next` stands for itself
   }
   return target;
+}
+
+std::filesystem::path CanonicalPath(const std::filesystem::path& path) {
+  std::error_code error;
+  // Complete first: a relative path of which nothing exists would stay as it is.
+  std::filesystem::path canonical = std::filesystem::absolute(FinalTarget(path), error);
+  if (!error) canonical = std::filesystem::weakly_canonical(canonical, error);
+  return error ? path : canonical;
 }
 
 std::error_code MoveOver(const std::filesystem::path& source, const std::filesystem::path& target) {

@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "canonical_path.h"
 #include "file_writer.h"
 #include "native_file.h"
 #include "text_encoding.h"
@@ -30,16 +31,33 @@ HANDLE ToHandle(std::intptr_t handle) noexcept {
   return reinterpret_cast<HANDLE>(handle);
 }
 
+// What a path begins with that the system takes as it is, whatever its length; and one of a server,
+// in place of the first of its two backslashes.
+constexpr std::wstring_view kMark = LR"(\\?\)";
+constexpr std::wstring_view kServerMark = LR"(\\?\UNC)";
+
+/// The complete path; empty when there is no such thing.
+std::wstring FullPath(const std::filesystem::path& path) {
+  std::wstring full(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+  const DWORD length =
+      GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+  full.resize(length < full.size() ? length : 0);
+  return full;
+}
+
 /// The path as the system takes it whatever its length: a long one has to be complete, with a mark.
 std::wstring AnyLength(const std::filesystem::path& path) {
   // What is usual, less a short name: the limit for a folder in which files are to be made.
-  constexpr DWORD kUsualLength = MAX_PATH - 12;
-  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-  if (size <= kUsualLength || path.native().starts_with(LR"(\\?\)")) return path.native();
-  std::wstring full(size, L'\0');
-  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+  constexpr std::size_t kUsualLength = MAX_PATH - 12;
+  std::wstring full = FullPath(path);
+  if (full.size() < kUsualLength || path.native().starts_with(kMark)) return path.native();
   const bool isShared = full.starts_with(LR"(\\)");
-  return isShared ? LR"(\\?\UNC)" + full.substr(1) : LR"(\\?\)" + full;
+  return isShared ? full.replace(0, 1, kServerMark) : full.insert(0, kMark);
+}
+
+std::wstring WithoutMark(std::wstring path) {
+  if (path.starts_with(kServerMark)) return path.replace(0, kServerMark.size(), LR"(\)");
+  return path.starts_with(kMark) ? path.substr(kMark.size()) : path;
 }
 
 std::error_code Open(const std::filesystem::path& path, DWORD access, DWORD disposition,
@@ -52,6 +70,20 @@ std::error_code Open(const std::filesystem::path& path, DWORD access, DWORD disp
   if (opened == INVALID_HANDLE_VALUE) return LastError();
   handle = reinterpret_cast<std::intptr_t>(opened);
   return {};
+}
+
+/// The path by which the system knows what is at `path`: links followed, in the volume's own
+/// spelling, with the mark of a long path. Empty when it is not there, or the system does not know.
+std::wstring FinalPath(const std::filesystem::path& path) {
+  std::intptr_t handle = 0;
+  if (Open(path, 0, OPEN_EXISTING, handle)) return {};
+  std::wstring final(GetFinalPathNameByHandleW(ToHandle(handle), nullptr, 0, 0), L'\0');
+  const DWORD length =
+      GetFinalPathNameByHandleW(ToHandle(handle), final.data(), static_cast<DWORD>(final.size()),
+                                FILE_NAME_NORMALIZED | VOLUME_NAME_DOS);
+  CloseHandle(ToHandle(handle));
+  final.resize(length < final.size() ? length : 0);
+  return final;
 }
 
 // FileRenameInfoEx, which the headers of mingw-w64 forget.
@@ -231,16 +263,16 @@ NativeFile::Lock NativeFile::TryLock() noexcept {
 }
 
 std::filesystem::path FinalTarget(const std::filesystem::path& path) {
-  std::intptr_t handle = 0;
-  if (Open(path, 0, OPEN_EXISTING, handle)) return path;
-  std::wstring target(GetFinalPathNameByHandleW(ToHandle(handle), nullptr, 0, 0), L'\0');
-  const DWORD length =
-      GetFinalPathNameByHandleW(ToHandle(handle), target.data(), static_cast<DWORD>(target.size()),
-                                FILE_NAME_NORMALIZED | VOLUME_NAME_DOS);
-  CloseHandle(ToHandle(handle));
-  if (length == 0 || length >= target.size()) return path;
-  target.resize(length);
-  return target;
+  std::wstring target = FinalPath(path);
+  return target.empty() ? path : std::filesystem::path(std::move(target));
+}
+
+std::filesystem::path CanonicalPath(const std::filesystem::path& path) {
+  const std::filesystem::path full = FullPath(path);
+  // A file that is not there is named by its folder.
+  if (std::wstring file = FinalPath(full); !file.empty()) return WithoutMark(std::move(file));
+  const std::filesystem::path folder = FinalPath(full.parent_path());
+  return WithoutMark(folder.empty() ? full : folder / full.filename());
 }
 
 std::error_code MoveOver(const std::filesystem::path& source, const std::filesystem::path& target) {

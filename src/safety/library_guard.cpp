@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "canonical_path.h"
 #include "file_writer.h"
 #include "path_text.h"
 #include "read_file.h"
@@ -26,15 +27,19 @@ LibraryGuard::LibraryGuard(const fs::path& stateFolder)
       journal_(Within(stateFolder, "recovery")) {}
 
 void LibraryGuard::TakeFile(const RecoveryStart& file) {
-  const bool isSame = lock_.IsHeld() && file.path == file_.path;
   file_ = file;
-  if (isSame) return;
+  const fs::path folder = Within(stateFolder_, "open");
+  const fs::path lock = file.path ? folder / NameForPath(PathFromText(*file.path)) : fs::path();
+  if (lock_.IsHeld() && lock_.Path() == lock) return;
   lock_.Remove();
   openElsewhere_ = false;
-  const fs::path folder = Within(stateFolder_, "open");
   if (!file.path || !CreatePrivateFolder(folder)) return;
-  const LockedFile::Outcome outcome = lock_.Acquire(folder / NameForPath(PathFromText(*file.path)));
-  openElsewhere_ = outcome == LockedFile::Outcome::HeldElsewhere;
+  openElsewhere_ = lock_.Acquire(lock) == LockedFile::Outcome::HeldElsewhere;
+}
+
+bool LibraryGuard::IsFile(std::u16string_view path) const {
+  return file_.path &&
+         CanonicalPath(PathFromText(*file_.path)) == CanonicalPath(PathFromText(path));
 }
 
 void LibraryGuard::OpenedWithoutFile(const LibraryView& library) {
@@ -51,7 +56,7 @@ void LibraryGuard::Opened(const LibraryView& library, const ContentIdentity& con
 }
 
 bool LibraryGuard::HasChangedOnDisk(std::u16string_view path) const {
-  if (file_.path != path) return false;
+  if (!IsFile(path)) return false;
   const FileResult<std::string> content = ReadFile(PathFromText(path));
   return content.Ok() && IdentityOf(content.Value()) != file_.identity;
 }
@@ -67,7 +72,7 @@ LibraryGuard::SaveResult LibraryGuard::Save(const LibraryView& library, std::u16
   FileWriter file(target, FileWriter::Durability::OnDisk, FileWriter::Rewriting::WhenNeeded);
   std::error_code ignored;
   if (fs::is_regular_file(target, ignored)) {
-    const bool isOwn = file_.path == path;
+    const bool isOwn = IsFile(path);
     const FileResult<std::string> old = ReadFile(target);
     result.copyKept = old.Ok() && copies_.Keep(target, old.Value(),
                                                isOwn && hasLosses_ ? SafetyCopies::Kind::Original

@@ -73,6 +73,8 @@ class LibraryGuard {
 
  private:
   void TakeFile(const RecoveryStart& file);
+  /// Whether `path`, however it is spelt, is that of the library's file.
+  [[nodiscard]] bool IsFile(std::u16string_view path) const;
 
   std::filesystem::path stateFolder_;
   SafetyCopies copies_;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "canonical_path.h"
 #include "content_identity.h"
 #include "path_text.h"
 
@@ -77,9 +78,7 @@ bool CreatePrivateFolder(const fs::path& folder) {
 fs::path NameForPath(const fs::path& path) {
   // Three bytes each at the most, which leaves room in a name of 255.
   constexpr std::size_t kReadable = 70;
-  std::error_code error;
-  fs::path whole = fs::weakly_canonical(path, error);
-  if (error) whole = path;
+  const fs::path whole = CanonicalPath(path);
   std::u16string text = TextFromPath(whole);
   text.erase(0, text.size() - std::min(text.size(), kReadable));
   for (char16_t& character : text) {

@@ -379,7 +379,7 @@ TEST_F(MainFrameSafetyTest, ATemporaryFileIsOfferedItsOwnChangesOnly) {
   EXPECT_FALSE(Frame().OfferRecovery(PathOf("other.tmp")));
   EXPECT_THAT(Prompts().recoveryQuestions, IsEmpty());
   Prompts().recoveryAnswers = {RecoveryAnswer::Restore};
-  EXPECT_TRUE(Frame().OfferRecovery(PathOf("parts.ZLB")));
+  EXPECT_TRUE(Frame().OfferRecovery(PathOf("./parts.ZLB"))) << "however it is spelt";
 }
 
 TEST_F(MainFrameSafetyTest, TheUsersFolderHoldsNothingElse) {

@@ -229,6 +229,40 @@ TEST_F(LibraryGuardTest, TheFileThatASaveMovesToCountsAsOpen) {
   EXPECT_TRUE(second.IsOpenElsewhere()) << "the file it is";
 }
 
+// --- One file under two paths
+// ---------------------------------------------------------------------
+
+/// The library's file, spelt in another way.
+class LibraryGuardOtherSpellingTest : public LibraryGuardTest {
+ protected:
+  LibraryGuardOtherSpellingTest() {
+    fs::create_directory(folder_ / "sub");
+    spelling_ = TextFromPath(folder_ / "sub/../parts.ZLB");
+    Open(LibraryGuard::Losses::Some);
+  }
+
+  std::u16string spelling_;
+};
+
+TEST_F(LibraryGuardOtherSpellingTest, TheSecondProgramIsTold) {
+  LibraryGuard second(folder_ / "state");
+  const OpenDoc spelt(kParts, PathFromText(spelling_));
+  second.Opened(spelt.View(), IdentityOf(kParts), LibraryGuard::Losses::None);
+  EXPECT_TRUE(second.IsOpenElsewhere());
+}
+
+TEST_F(LibraryGuardOtherSpellingTest, AChangeIsNoticed) {
+  EXPECT_FALSE(guard_.HasChangedOnDisk(spelling_));
+  folder_.Put("parts.ZLB", kOther);
+  EXPECT_TRUE(guard_.HasChangedOnDisk(spelling_));
+}
+
+TEST_F(LibraryGuardOtherSpellingTest, TheOriginalIsKept) {
+  open_.Add(u"new");
+  EXPECT_TRUE(guard_.Save(open_.View(), spelling_).saved);
+  EXPECT_THAT(Copies(), ElementsAre("original-0001-parts.ZLB"));
+}
+
 // --- Recovery ------------------------------------------------------------------------------------
 
 #ifndef _WIN32  // there is no fork

@@ -159,6 +159,15 @@ def test_a_component_comes_from_notepad(desktop, start, run, sample, folder, lin
     )
 
 
+def test_a_second_mivo_is_told_however_the_file_is_spelt(desktop, start, run, sample):
+    path = sample("standard.ZLB")
+    start(path.name, title=title_of(path))
+    spelling = windows_path(path).upper()
+    run(start.installed / "mivo.exe", spelling)
+    told = {f"Mivo - {spelling}", QUESTION}
+    wait_until(lambda: told <= set(desktop.titles()), "the library and the message", limit=120)
+
+
 def test_unsaved_work_of_a_killed_program_is_restored(desktop, start, run, sample):
     path = sample("standard.ZLB")
     original = path.read_bytes()
