@@ -92,6 +92,8 @@ class CompEditor {
   /// Fills a surface as large as the window with everything that is not being edited: the back
   /// image, good until the host is asked to render it again.
   void PaintBack(DrawingSurface& surface);
+  /// Whether something is selected or begun; otherwise the back image is all there is to see.
+  [[nodiscard]] bool HasFront() const noexcept;
   /// Draws the selection and what the tools have begun over a copy of the back image.
   void PaintFront(DrawingSurface& surface);
 

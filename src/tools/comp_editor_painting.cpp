@@ -25,6 +25,10 @@ void CompEditor::PaintBack(DrawingSurface& surface) {
   renderer.Render(&picture, scale);
 }
 
+bool CompEditor::HasFront() const noexcept {
+  return !session_.document.Selection().empty() || tool_->HasFeedback();
+}
+
 void CompEditor::PaintFront(DrawingSurface& surface) {
   if (session_.component == nullptr) return;
   SCompEditDoc& document = session_.document;
@@ -40,7 +44,7 @@ void CompEditor::PaintFront(DrawingSurface& surface) {
   }
   if (!document.Selection().empty()) renderer.RenderFocus(document.SelectionRect(), scale);
   FeedbackPainter painter(surface, renderer, scale, document.BodySize(), swapped_);
-  tool_->DrawFeedback(painter);
+  if (tool_->HasFeedback()) tool_->DrawFeedback(painter);
   if (newNode_) painter.NewNodeMark(newNode_->point);
 }
 

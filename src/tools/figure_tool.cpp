@@ -33,7 +33,7 @@ bool FigureTool::StepBack(EditSession& session) {
 }
 
 void FigureTool::DrawFeedback(FeedbackPainter& painter) const {
-  if (!fixed_.empty()) DrawFigure(PointsWithRubber(), painter);
+  DrawFigure(PointsWithRubber(), painter);
 }
 
 void FigureTool::Finish(EditSession& session, const SPtnObj& object) {

@@ -18,6 +18,7 @@ class FigureTool : public Tool {
   void Press(EditSession& session, const Pointer& pointer) final;
   void Move(EditSession& session, const Pointer& pointer) final;
   bool StepBack(EditSession& session) final;
+  [[nodiscard]] bool HasFeedback() const noexcept final { return !fixed_.empty(); }
   void DrawFeedback(FeedbackPainter& painter) const final;
 
  protected:

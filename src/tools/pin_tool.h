@@ -16,6 +16,7 @@ class PinTool final : public Tool {
   }
   void Press(EditSession& session, const Pointer& pointer) override;
   void Move(EditSession& session, const Pointer& pointer) override;
+  [[nodiscard]] bool HasFeedback() const noexcept override { return true; }
   void DrawFeedback(FeedbackPainter& painter) const override;
 
  private:

@@ -19,6 +19,7 @@ class SelectorTool final : public Tool {
   void Move(EditSession& session, const Pointer& pointer) override;
   void Release(EditSession& session, const Pointer& pointer) override;
   bool StepBack(EditSession& session) override;
+  [[nodiscard]] bool HasFeedback() const noexcept override { return band_ || heldPin_; }
   void DrawFeedback(FeedbackPainter& painter) const override;
 
  private:

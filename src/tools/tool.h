@@ -49,7 +49,9 @@ class Tool {
   virtual void DoubleClick(EditSession& /*session*/) {}
   /// Takes back the last step; false when there is none.
   virtual bool StepBack(EditSession& /*session*/) { return false; }
-  /// What the tool has begun, on top of everything else.
+  /// Whether the tool has begun something that is to be seen.
+  [[nodiscard]] virtual bool HasFeedback() const noexcept { return false; }
+  /// What the tool has begun, on top of everything else; only while there is something.
   virtual void DrawFeedback(FeedbackPainter& /*painter*/) const {}
 };
 

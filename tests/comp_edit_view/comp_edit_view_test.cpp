@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,6 +31,8 @@ class CompEditViewTest : public testing::Test {
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, At(point));
   }
   [[nodiscard]] std::size_t Selected() const { return view.Editor().Document().Selection().size(); }
+  [[nodiscard]] QImage Picture() { return view.viewport()->grab().toImage(); }
+  /// It is selected then.
   void DrawLine() {
     QTest::keyClick(&view, Qt::Key_L);
     Click({10, 10});
@@ -60,6 +63,14 @@ TEST_F(CompEditViewTest, EscapeReleasesAndDelDeletes) {
   QTest::keyClick(&view, Qt::Key_Delete);
   EXPECT_EQ(Selected(), 0u);
   EXPECT_TRUE(view.Editor().IsEnabled(Command::Undo));
+}
+
+TEST_F(CompEditViewTest, ShowsWhatIsSelectedOverTheDrawing) {
+  const QImage empty = Picture();
+  DrawLine();
+  EXPECT_NE(Picture(), empty);
+  QTest::keyClick(&view, Qt::Key_Delete);
+  EXPECT_EQ(Picture(), empty);
 }
 
 TEST_F(CompEditViewTest, LettersWithCtrlAreNotToolKeys) {

@@ -163,6 +163,7 @@ std::optional<std::string> SequencePlayer::Do(const std::string& step) {
   if (!opened_) Open();
   if (Act(verb, words)) {
     rig_.PaintAsAsked();
+    if (!rig_.editor.HasFront() && Front() != "nothing") return "a front that is not told of";
     return BrokenInvariant(rig_);
   }
   const std::optional<std::string> actual = Actual(verb, words);

@@ -121,16 +121,20 @@ void CCompEditView::paintEvent(QPaintEvent*) {
   // The window may have moved to a display of another resolution since it got its size.
   if (viewport()->devicePixelRatioF() != ratio_) TakeSize();
   if (!back_) back_ = RasterImage::Create(size_, ImageDepth::Color);
-  if (!front_) front_ = RasterImage::Create(size_, ImageDepth::Color);
-  if (!back_ || !front_) return;
+  if (!back_) return;
   if (!backIsCurrent_) {
     editor_.PaintBack(*surfaces_.CreateSurface(*back_));
     backIsCurrent_ = true;
   }
-  const PixelSize size = back_->Size();
-  front_->CopyFrom(*back_, {0, 0, size.width, size.height}, {0, 0});
-  editor_.PaintFront(*surfaces_.CreateSurface(*front_));
-  QImage image = WrapImage(*front_);
+  RasterImage* shown = &*back_;
+  if (editor_.HasFront()) {
+    if (!front_) front_ = RasterImage::Create(size_, ImageDepth::Color);
+    if (!front_) return;
+    front_->CopyFrom(*back_, {0, 0, size_.width, size_.height}, {0, 0});
+    editor_.PaintFront(*surfaces_.CreateSurface(*front_));
+    shown = &*front_;
+  }
+  QImage image = WrapImage(*shown);
   image.setDevicePixelRatio(ratio_);
   QPainter(viewport()).drawImage(0, 0, image);
 }

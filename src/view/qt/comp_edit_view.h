@@ -91,7 +91,7 @@ class CCompEditView final : public QAbstractScrollArea, private ViewHost {
   double ratio_ = 0;                  ///< device pixels per logical pixel that the editor knows of
   PixelSize size_{};                  ///< of both images
   std::optional<RasterImage> back_;   ///< nothing until it is painted, or when it cannot be had
-  std::optional<RasterImage> front_;  ///< what is on the screen
+  std::optional<RasterImage> front_;  ///< likewise; what is on the screen while there is a front
   bool backIsCurrent_ = false;
   bool settingBars_ = false;
   bool pinGridShown_ = false;
