@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
+#include <utility>
 
 #include "elided_label.h"
 #include "pin_geometry.h"
@@ -127,13 +128,12 @@ void StatusPane::SetZoom(std::optional<std::int32_t> factor) {
 }
 
 void StatusPane::SetNames(int row, int count) {
-  nameCount_ = count;
   if (count == 0) {
     names_->clear();
   } else {
     names_->setText(row >= 0 ? NamesText(row + 1, count) : QString::number(count));
   }
-  Reserve(*names_, NamesText(count, count));
+  if (std::exchange(nameCount_, count) != count) Reserve(*names_, NamesText(count, count));
 }
 
 void StatusPane::ShowProgress(const QString& what, double done) {
