@@ -12,6 +12,7 @@
 
 #include "language_library.h"
 #include "main_frame.h"
+#include "mended_style.h"
 #include "path_text.h"
 #include "qt_fonts.h"
 #include "qt_text.h"
@@ -65,6 +66,7 @@ void CMivoApp::InitInstance(const QStringList& arguments) {
   parser.process(arguments);
 
   InstallFontSubstitutes();
+  MendedStyle::UseWhereNeeded();
   frame_ = std::make_unique<CMainFrame>(settings_, texts_);
   ShowFrame();
   const QString argument = parser.positionalArguments().value(0);

@@ -13,8 +13,9 @@ namespace mivo {
 
 class CMainFrame;
 
-/// Brings the program up: chooses the settings file, takes the language library, makes the main
-/// window with the size and state it had, and opens the file named on the command line.
+/// Brings the program up: chooses the settings file, takes the language library and the style,
+/// makes the main window with the size and state it had, and opens the file named on the command
+/// line.
 class CMivoApp {
  public:
   /// Looks for settings and the language library where this process runs.
