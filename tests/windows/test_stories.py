@@ -10,6 +10,9 @@ from driver.waiting import wait_until
 
 QUESTION = "Mivo"  # the title of every message
 
+ALIAS_COLOUR = (255, 0, 0)  # red, green, blue
+PIN_NUMBER_COLOUR = (128, 0, 128)
+
 COMPONENT = [
     "+TARSL_DATA_V.1.0",
     "+COMPONENT",
@@ -289,3 +292,22 @@ def test_the_window_is_as_large_as_the_screen_wants(desktop, start, run):
         run("reg", "delete", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/f").wait_end()
         end_windows(desktop)
     assert larger == (width * 120 // 96, height * 120 // 96)
+
+
+def test_the_window_follows_the_scale_of_its_monitor(desktop, start, run, sample):
+    """The scale becomes 1.5: so large are the texts then, and a line of the drawing has 2 pixels in place of 1."""
+    path = sample("standard.ZLB")
+    title = title_of(path)
+    start(path.name, title=title)
+
+    def extents():
+        picture = desktop.picture_of(title)
+        return picture.extent(ALIAS_COLOUR), picture.extent(PIN_NUMBER_COLOUR)
+
+    def scaled(extent, factor):
+        return [pytest.approx(factor * pixels, abs=3) for pixels in extent]
+
+    aliases, numbers = wait_until(lambda: all(extents()) and extents(), "the component")
+    rescaled = run(BUILD / "tests/rescale.exe", title, "144")
+    assert rescaled.wait_end() == 0, rescaled.log.read_text()
+    wait_until(lambda: extents() == (scaled(aliases, 1.5), scaled(numbers, 2)), "all to be larger")

@@ -116,6 +116,13 @@ class Desktop:
         size = self._window(title).get_geometry()
         return size.width, size.height
 
+    def picture_of(self, title):
+        """The window's inside."""
+        window = self._window(title)
+        size = window.get_geometry()
+        corner = self._root.translate_coords(window, 0, 0)
+        return self.picture((corner.x, corner.y, size.width, size.height))
+
     def close_window(self, title):
         """As the cross in the window's frame does."""
         window = self._window(title)

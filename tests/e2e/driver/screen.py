@@ -20,6 +20,22 @@ class Picture:
     def __eq__(self, other):
         return (self.width, self.height, self._data) == (other.width, other.height, other._data)
 
+    def extent(self, colour):
+        """Width and height of the box around the pixels of this colour: red, green, blue. None when there are none."""
+        red, green, blue = colour
+        pixel = bytes((blue, green, red))
+        row_size = 4 * self.width
+        columns, rows = set(), set()
+        place = self._data.find(pixel)
+        while place >= 0:
+            if place % 4 == 0:
+                rows.add(place // row_size)
+                columns.add(place % row_size // 4)
+            place = self._data.find(pixel, place + 1)
+        if not rows:
+            return None
+        return [max(places) - min(places) + 1 for places in (columns, rows)]
+
     def save(self, path):
         def chunk(kind, content):
             checksum = struct.pack(">I", zlib.crc32(kind + content))
