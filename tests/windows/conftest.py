@@ -83,8 +83,11 @@ def desktop():
     shutil.rmtree(path)
 
 
+USER = "Jürgen Ж"  # and so are the folders named in which programs keep what is the user's
+
+
 def environment_on(desktop):
-    return {**desktop.environment(), "WINEPREFIX": str(PREFIX), "LC_ALL": "C.UTF-8"}
+    return {**desktop.environment(), "WINEPREFIX": str(PREFIX), "LC_ALL": "C.UTF-8", "USER": USER}
 
 
 def end_windows(desktop):
@@ -122,7 +125,7 @@ def run(desktop, folder, request):
 @pytest.fixture
 def user(desktop):
     """The folder of the user in the Windows of the stories."""
-    return next(path for path in (PREFIX / "drive_c/users").iterdir() if path.name != "Public")
+    return PREFIX / "drive_c/users" / USER
 
 
 @pytest.fixture
@@ -137,7 +140,7 @@ def state(user):
 @pytest.fixture
 def start(run, folder, state):
     """Starts Mivo, installed in a folder of the story's own, and waits for its window."""
-    installed = folder / "Jürgen Ж"
+    installed = folder / "Программы"
     installed.mkdir()
     shutil.copy(BUILD / "bin/mivo.exe", installed)
 

@@ -124,6 +124,23 @@ def test_the_native_dialog_opens_a_library(desktop, start, sample, folder):
     mivo.wait_window(title_of(path))
 
 
+@pytest.mark.parametrize(
+    "keys, filters",
+    [
+        ("Ctrl+o", ["Tarsel library file(*.zlb)", "Tarsel schematic(*.zsc)"]),
+        ("Ctrl+s", ["Tarsel library file(*.zlb)"]),
+    ],
+    ids=["open", "save"],
+)
+def test_the_native_dialog_offers_the_files_of_mivo(desktop, start, run, keys, filters):
+    start()
+    press_until(desktop, lambda: desktop.active_title() not in ("Mivo", None), "the dialog", keys)
+    choices = run(BUILD / "tests/choices.exe")
+    assert choices.wait_end() == 0
+    offered = choices.log.read_text().splitlines()
+    assert [choice for choice in offered if "*" in choice] == filters
+
+
 def test_a_component_goes_to_notepad(desktop, start, run, sample, folder):
     path = sample("standard.ZLB")
     start(path.name, title=title_of(path))

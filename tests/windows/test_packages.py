@@ -1,4 +1,6 @@
-"""The installer, run silently: what it puts where, and what is left when Mivo is uninstalled."""
+"""The packages: what the installer, run silently, puts where and leaves when Mivo is uninstalled; and the zip."""
+
+import zipfile
 
 import pytest
 
@@ -10,12 +12,16 @@ UNINSTALL = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Mivo"
 CLASSES = r"HKCU\Software\Classes"
 
 
+def package(name):
+    found = sorted((BUILD / "package").glob(name))
+    if not found:
+        pytest.skip("there is no package; packaging/windows/pack makes them")
+    return found[0]
+
+
 @pytest.fixture
 def installer():
-    found = sorted((BUILD / "package").glob("*-setup.exe"))
-    if not found:
-        pytest.skip("there is no installer; packaging/windows/pack makes one")
-    return found[0]
+    return package("*-setup.exe")
 
 
 @pytest.fixture
@@ -74,3 +80,17 @@ def test_it_installs_and_uninstalls(desktop, run, registry, installer, user):
     assert registry(CLASSES + r"\.ZLB") is None
     assert registry(CLASSES + r"\Mivo.Library\shell\open\command") is None
     assert settings.read_bytes() == kept, "the settings are the user's"
+
+
+def test_the_zip_runs_where_it_is_unpacked(run, folder, state):
+    with zipfile.ZipFile(package("*.zip")) as archive:
+        archive.extractall(folder)
+    (program,) = (path for path in folder.iterdir() if path.is_dir())
+    sample = windows_path(program / "samples/standard.ZLB")
+
+    listed = run(program / "mivo-cli.exe", "list", sample)
+    assert listed.wait_end() == 0
+    assert "LM358" in listed.log.read_text()
+
+    run(program / "mivo.exe", sample).wait_main_window(f"Mivo - {sample}")
+    assert (program / "MIVO.INI").exists(), "the settings are beside it"
