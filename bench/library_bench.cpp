@@ -17,6 +17,7 @@
 #include "generated_library.h"
 #include "measured_process.h"
 #include "mivo_doc.h"
+#include "record_reader.h"
 #include "table_row.h"
 
 namespace mivo::bench {
@@ -26,8 +27,16 @@ constexpr int kRounds = 5;
 
 int RunTask(std::string_view task, const std::string& path) {
   if (task == "empty") return 0;
-  SMivoDoc doc;
   FileSource file(path);
+  if (task == "fields") {
+    SRecordReader reader;
+    reader.AttachFile(file, ByteDecoding::Utf8);
+    std::u16string_view field;
+    while (reader.ReadField(field) == FieldStatus::Ok) {
+    }
+    return file.Error().empty() ? 0 : 1;
+  }
+  SMivoDoc doc;
   if (!doc.Load(file, file.SizeHint(), u"library")) return 1;
   if (task == "load+save") {
     FileByteSink sink("/dev/null");
@@ -56,11 +65,12 @@ void MeasureLibrary(const std::string& self, const std::string& folder, std::int
     if (!WriteGeneratedLibrary(sink, components, Names::Distinct)) std::exit(1);
   }
   const double megabytes = static_cast<double>(std::filesystem::file_size(path)) / (1 << 20);
-  Least empty, iconv, wc, load, loadAndSave, convert, list;
+  Least empty, iconv, wc, fields, load, loadAndSave, convert, list;
   for (int round = 0; round < kRounds; ++round) {
     empty.Take(RunMeasured({self, "empty", path}));
     iconv.Take(RunMeasured({"iconv", "-f", "UTF-8", "-t", "UTF-16LE", "-o", "/dev/null", path}));
     wc.Take(RunMeasured({"wc", "-m", path}));
+    fields.Take(RunMeasured({self, "fields", path}));
     load.Take(RunMeasured({self, "load", path}));
     loadAndSave.Take(RunMeasured({self, "load+save", path}));
     convert.Take(RunMeasured({MIVO_CLI, "convert", path, converted}));
@@ -72,6 +82,7 @@ void MeasureLibrary(const std::string& self, const std::string& folder, std::int
     PrintRow({name, megabytes / seconds, "MB/s", seconds / iconv.cpuSeconds, "iconv", limit});
     PrintRow({name, megabytes / seconds, "MB/s", seconds / wc.cpuSeconds, "wc -m"});
   };
+  print("find nothing but the fields of ", fields.cpuSeconds, 0);
   print("load ", load.cpuSeconds, 2.5);
   print("save ", loadAndSave.cpuSeconds - load.cpuSeconds, 1.5);
   print("convert ", convert.cpuSeconds, 0);
