@@ -6,17 +6,15 @@
 #include <system_error>
 #include <utility>
 
+#include "file_source.h"
 #include "lb_comp_name.h"
 #include "load_note.h"
 #include "main_frame.h"
 #include "path_text.h"
 #include "qt_text.h"
-#include "read_file.h"
 
 namespace mivo {
 namespace {
-
-constexpr int kLoadSteps = 2;  // fetching the bytes, understanding them
 
 QString TaskText(const TextTable& texts, StringId what, const QString& path) {
   return ToQString(texts.Text(what)).replace(QStringLiteral("%s"), QFileInfo(path).fileName());
@@ -27,26 +25,28 @@ QString TaskText(const TextTable& texts, StringId what, const QString& path) {
 CMainFrame::LoadOutcome CMainFrame::LoadFrom(const QString& path) {
   busy_ = true;
   const auto end = qScopeGuard([this] { EndTask(); });
-  TaskProgress progress(*status_, TaskText(texts_, StringId::Opening, path), kLoadSteps, clock_);
+  TaskProgress progress(*status_, TaskText(texts_, StringId::Opening, path), clock_);
 
   const std::u16string pathText = ToText(path);
-  const FileResult<std::string> content = ReadFile(PathFromText(pathText), &progress);
-  if (!content.Ok()) {
-    return {QFileInfo(path).fileName() + QStringLiteral(": ") +
-            QString::fromStdString(content.Error())};
-  }
-  progress.NextStep();
+  FileSource file(PathFromText(pathText));
+  IdentifyingSource content(file);
   LoadNote note;
-  // What was read before a fault stays, without a path.
-  static_cast<void>(doc_.Load(content.Value(), pathText, &note, &progress));
-  return {note.Text(texts_), note.IsLaterVersion(), IdentityOf(content.Value()),
+  // What was read before a fault in the content stays, without a path.
+  static_cast<void>(doc_.Load(content, file.SizeHint(), pathText, &note, &progress));
+  const ContentIdentity identity = content.IdentityOfAll();
+  if (!file.Error().empty()) {
+    doc_.Clear();
+    return {QFileInfo(path).fileName() + QStringLiteral(": ") +
+            QString::fromStdString(file.Error())};
+  }
+  return {note.Text(texts_), note.IsLaterVersion(), identity,
           note.HasLosses() ? LibraryGuard::Losses::Some : LibraryGuard::Losses::None};
 }
 
 LibraryGuard::SaveResult CMainFrame::WriteInto(const QString& path) {
   busy_ = true;
   const auto end = qScopeGuard([this] { EndTask(); });
-  TaskProgress progress(*status_, TaskText(texts_, StringId::Saving, path), 1, clock_);
+  TaskProgress progress(*status_, TaskText(texts_, StringId::Saving, path), clock_);
   return guard_.Save(OpenLibrary(), ToText(path), &progress);
 }
 

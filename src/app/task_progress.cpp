@@ -8,10 +8,9 @@
 
 namespace mivo {
 
-TaskProgress::TaskProgress(StatusPane& pane, QString what, int steps, Clock clock)
+TaskProgress::TaskProgress(StatusPane& pane, QString what, Clock clock)
     : pane_(pane),
       what_(std::move(what)),
-      steps_(steps),
       clock_(std::move(clock)),
       nextPicture_(clock_() + kPatience) {}
 
@@ -29,7 +28,7 @@ void TaskProgress::Advance(std::uint64_t done, std::uint64_t total) {
   shown_ = true;
   const double part =
       total > 0 ? std::min(1.0, static_cast<double>(done) / static_cast<double>(total)) : 0;
-  pane_.ShowProgress(what_, (step_ + part) / steps_);
+  pane_.ShowProgress(what_, part);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -22,23 +22,18 @@ class TaskProgress final : public ProgressSink {
   /// Between two pictures of the progress.
   static constexpr std::chrono::milliseconds kInterval{50};
 
-  /// The task begins; it consists of `steps` steps of about the same length. `pane` must outlive
-  /// this.
-  TaskProgress(StatusPane& pane, QString what, int steps, Clock clock);
+  /// The task begins. `pane` must outlive this.
+  TaskProgress(StatusPane& pane, QString what, Clock clock);
   /// The task is over.
   ~TaskProgress() override;
   TaskProgress(const TaskProgress&) = delete;
   TaskProgress& operator=(const TaskProgress&) = delete;
 
-  /// What comes now belongs to the step after the one before.
-  void NextStep() { ++step_; }
   void Advance(std::uint64_t done, std::uint64_t total) override;
 
  private:
   StatusPane& pane_;
   QString what_;
-  int steps_;
-  int step_ = 0;
   Clock clock_;
   std::chrono::steady_clock::time_point nextPicture_;
   bool shown_ = false;

@@ -5,14 +5,12 @@
 #include <string>
 
 #include "file_result.h"
-#include "progress.h"
 
 namespace mivo {
 
 /// The whole content of a file, byte by byte. Refuses what is not a regular file: a directory has
-/// no content, a pipe or a device may never come to an end. `progress` counts bytes.
-[[nodiscard]] FileResult<std::string> ReadFile(const std::filesystem::path& path,
-                                               ProgressSink* progress = nullptr);
+/// no content, a pipe or a device may never come to an end.
+[[nodiscard]] FileResult<std::string> ReadFile(const std::filesystem::path& path);
 
 /// Everything up to the end of the standard input, byte by byte.
 [[nodiscard]] FileResult<std::string> ReadStandardInput();

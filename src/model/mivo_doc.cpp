@@ -35,11 +35,15 @@ class PeekedSource final : public ByteSource {
   /// The next byte is the first one once more, for the last time.
   void Rewind() noexcept { isPeeking_ = false; }
 
-  /// Everything, first bytes and all. In place of reading.
-  [[nodiscard]] std::string TakeAll() {
+  /// Everything, first bytes and all. In place of reading. Tells `progress` of the first half of a
+  /// task; `size` bytes are expected.
+  [[nodiscard]] std::string TakeAll(std::uint64_t size, ProgressSink* progress) {
     std::string bytes = std::move(peeked_);
     std::array<char, 1 << 16> piece;
-    while (const std::size_t count = source_.Read(piece)) bytes.append(piece.data(), count);
+    while (const std::size_t count = source_.Read(piece)) {
+      bytes.append(piece.data(), count);
+      if (progress != nullptr) progress->Advance(bytes.size(), 2 * size);
+    }
     return bytes;
   }
 
@@ -48,6 +52,19 @@ class PeekedSource final : public ByteSource {
   std::string peeked_;
   std::size_t again_ = 0;  // how many of them have been read for the second time
   bool isPeeking_ = true;
+};
+
+/// Passes on how far the second half of a task has come, the first being as long.
+class SecondHalf final : public ProgressSink {
+ public:
+  explicit SecondHalf(ProgressSink* sink) : sink_(sink) {}
+
+  void Advance(std::uint64_t done, std::uint64_t total) override {
+    if (sink_ != nullptr) sink_->Advance(total + done, 2 * total);
+  }
+
+ private:
+  ProgressSink* sink_;
 };
 
 /// What the first fields of a file say.
@@ -130,18 +147,19 @@ bool SMivoDoc::ReadContent(SRecordReader& reader, ByteSource& source, std::uint6
   version_ = head->version;
 
   const bool isOld = version_ < kFirstUtf8Version;
-  std::string whole = isOld || head->isSchematic ? peeked.TakeAll() : std::string();
+  const bool isWhole = isOld || head->isSchematic;
+  std::string whole = isWhole ? peeked.TakeAll(size, progress) : std::string();
+  SecondHalf secondHalf(progress);
+  reader.SetProgress(isWhole ? &secondHalf : progress, isWhole ? whole.size() : size);
   const bool isCutOff = head->isSchematic && !HasSchematicEnd(whole);
   MemoryByteSource wholeSource(whole);
   std::u16string decoded;
   if (isOld) {
     decoded = DecodeSystemCodePage(whole);
     std::string().swap(whole);
-    reader.SetProgress(progress, decoded.size());
     reader.AttachString(decoded);
   } else {
     peeked.Rewind();
-    reader.SetProgress(progress, size);
     reader.AttachFile(head->isSchematic ? static_cast<ByteSource&>(wholeSource) : peeked,
                       ByteDecoding::Utf8);
   }

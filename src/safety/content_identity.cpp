@@ -1,6 +1,9 @@
 #include "content_identity.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
+#include <utility>
 
 namespace mivo {
 namespace {
@@ -23,12 +26,42 @@ std::uint64_t Mix(std::uint64_t hash, std::uint64_t word) noexcept {
 
 }  // namespace
 
+void ContentHash::Add(std::string_view bytes) noexcept {
+  while (!bytes.empty()) {
+    const std::size_t filled = size_ % kStep;
+    const std::size_t count = std::min(kStep - filled, bytes.size());
+    if (count == kStep) {
+      hash_ = Mix(hash_, Word(bytes.data(), kStep));
+    } else {
+      word_ |= Word(bytes.data(), count) << (8 * filled);
+      if (filled + count == kStep) hash_ = Mix(hash_, std::exchange(word_, 0));
+    }
+    size_ += count;
+    bytes.remove_prefix(count);
+  }
+}
+
+ContentIdentity ContentHash::Identity() const noexcept {
+  return {size_, Mix(Mix(hash_, word_), size_)};
+}
+
 ContentIdentity IdentityOf(std::string_view bytes) noexcept {
-  std::uint64_t hash = bytes.size();
-  std::string_view rest = bytes;
-  for (; rest.size() >= kStep; rest.remove_prefix(kStep))
-    hash = Mix(hash, Word(rest.data(), kStep));
-  return {bytes.size(), Mix(hash, Word(rest.data(), rest.size()))};
+  ContentHash hash;
+  hash.Add(bytes);
+  return hash.Identity();
+}
+
+std::size_t IdentifyingSource::Read(std::span<char> into) {
+  const std::size_t count = source_.Read(into);
+  hash_.Add({into.data(), count});
+  return count;
+}
+
+ContentIdentity IdentifyingSource::IdentityOfAll() {
+  std::array<char, 1 << 16> rest;
+  while (Read(rest) > 0) {
+  }
+  return hash_.Identity();
 }
 
 }  // namespace mivo

@@ -20,7 +20,7 @@ def large(folder):
 
 @pytest.fixture
 def slow_disk(folder):
-    """The disk is slow while this file exists."""
+    """The disk is slow while this file exists, and broken while there is something in it."""
     return folder / "slow"
 
 
@@ -71,4 +71,18 @@ def test_commands_wait(mivo, large, slow_disk):
     assert mivo.title == "Mivo"
     assert mivo.names == []
     assert large.read_bytes() == content
+    mivo.quit()
+
+
+def test_the_disk_breaks(mivo, large, slow_disk):
+    """What came before that is no library."""
+    loading = mivo.texts.first("Opening %s").replace("%s", large.name)
+    slow_disk.touch()
+    mivo.drop_file(large, mivo.frame.box.middle)
+    wait_until(lambda: loading in mivo.status, "the progress")
+    slow_disk.write_text("broken")
+    wait_until(lambda: f"{large.name}: Input/output error" in mivo.status, "the refusal")
+    assert mivo.title == "Mivo"
+    assert mivo.names == []
+    slow_disk.unlink()
     mivo.quit()

@@ -9,7 +9,6 @@
 #include <string>
 
 #include "child_process.h"
-#include "recorded_progress.h"
 #include "temp_folder.h"
 #include "unprivileged_user.h"
 
@@ -47,18 +46,6 @@ TEST(ReadFile, ReadsSizesAroundItsBuffer) {
     bytes.back() = 'y';
     EXPECT_EQ(Outcome(ReadFile(folder.Put("file", bytes))), bytes) << size;
   }
-}
-
-TEST(ReadFile, TellsPieceByPieceHowMuchWasRead) {
-  const TempFolder folder;
-  const std::string bytes(3000000, 'x');
-  RecordedProgress progress;
-  const auto result = ReadFile(folder.Put("file", bytes), &progress);
-  EXPECT_EQ(Outcome(result), bytes);
-  ASSERT_GE(progress.calls.size(), 3u);
-  EXPECT_TRUE(progress.Ascends());
-  EXPECT_LT(progress.calls.front().first, bytes.size());
-  EXPECT_EQ(progress.calls.back(), std::pair(bytes.size(), bytes.size()));
 }
 
 TEST(ReadFile, ReadsAFileThatHoldsMoreThanItsSizeSays) {
