@@ -10,6 +10,7 @@
 #include "library_writer.h"
 #include "number_text.h"
 #include "text_encoding.h"
+#include "vector_room.h"
 
 namespace mivo {
 namespace {
@@ -198,8 +199,10 @@ bool SMivoDoc::Write(ByteSink& sink) const {
 }
 
 NameEntry* SMivoDoc::AddComponent(std::unique_ptr<SComponent> component, std::u16string_view name) {
-  SComponent* const added = components_.emplace_back(std::move(component)).get();
-  return AddAlias(added, name);
+  MakeRoomForOne(components_);
+  NameEntry* const entry = AddAlias(component.get(), name);
+  components_.push_back(std::move(component));
+  return entry;
 }
 
 NameEntry* SMivoDoc::AddAlias(SComponent* component, std::u16string_view name) {

@@ -59,7 +59,8 @@ class SMivoDoc {
   /// The same with the entries in the order in which they were added.
   [[nodiscard]] bool Write(ByteSink& sink) const;
 
-  /// Takes the component over and lists it under the unique name for `name`.
+  /// Takes the component over and lists it under the unique name for `name`. Where the memory does
+  /// not suffice, nothing is added.
   NameEntry* AddComponent(std::unique_ptr<SComponent> component, std::u16string_view name);
   /// Lists `component`, one of this library's, also under the unique name for `name`.
   NameEntry* AddAlias(SComponent* component, std::u16string_view name);

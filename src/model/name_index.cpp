@@ -5,6 +5,7 @@
 
 #include "integer.h"
 #include "number_text.h"
+#include "vector_room.h"
 
 namespace mivo {
 namespace {
@@ -86,15 +87,16 @@ std::int32_t NameIndex::FirstFree(std::u16string_view base, std::int32_t start) 
 
 NameEntry* NameIndex::AddIfFree(std::u16string_view name, SComponent* component) {
   auto entry = std::make_unique<NameEntry>(std::u16string(name), component);
+  MakeRoomForOne(entries_);
   if (!byName_.insert(entry.get()).second) return nullptr;
   return entries_.emplace_back(std::move(entry)).get();
 }
 
 NameEntry* NameIndex::Add(std::u16string name, SComponent* component) {
-  NameEntry* const entry =
-      entries_.emplace_back(std::make_unique<NameEntry>(std::move(name), component)).get();
-  byName_.insert(entry);
-  return entry;
+  auto entry = std::make_unique<NameEntry>(std::move(name), component);
+  MakeRoomForOne(entries_);
+  byName_.insert(entry.get());
+  return entries_.emplace_back(std::move(entry)).get();
 }
 
 void NameIndex::Forget(const NameEntry& entry) {

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 namespace {
@@ -12,6 +13,7 @@ std::atomic<std::size_t> calls;
 std::atomic<std::size_t> bytes;
 std::atomic<std::size_t> live;
 std::atomic<std::size_t> peak;
+std::atomic<std::size_t> goodCalls = std::numeric_limits<std::size_t>::max();  // before they fail
 
 /// In front of what is handed out stands its size. Any heap adds about as much.
 constexpr std::size_t kHeader = alignof(std::max_align_t);
@@ -30,6 +32,7 @@ void Forget(void* memory) {
 void* operator new(std::size_t size) {
   calls += 1;
   bytes += size;
+  if (calls > goodCalls) throw std::bad_alloc();
   const std::size_t whole = size + kHeader;
   auto* const block = whole > size ? static_cast<std::size_t*>(std::malloc(whole)) : nullptr;
   if (block == nullptr) throw std::bad_alloc();
@@ -63,6 +66,14 @@ std::size_t AllocationMeter::Bytes() const {
 
 std::size_t AllocationMeter::Peak() const {
   return peak - liveBefore_;
+}
+
+AllocationFault::AllocationFault(std::size_t good) {
+  goodCalls = calls + good;
+}
+
+AllocationFault::~AllocationFault() {
+  goodCalls = std::numeric_limits<std::size_t>::max();
 }
 
 }  // namespace mivo

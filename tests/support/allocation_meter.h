@@ -25,6 +25,15 @@ class AllocationMeter {
   std::size_t liveBefore_;
 };
 
+/// Lets `good` allocations succeed and all later ones fail, as long as it lives. One at a time.
+class AllocationFault {
+ public:
+  explicit AllocationFault(std::size_t good);
+  ~AllocationFault();
+  AllocationFault(const AllocationFault&) = delete;
+  AllocationFault& operator=(const AllocationFault&) = delete;
+};
+
 }  // namespace mivo
 
 #endif
