@@ -2,8 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "allocation_meter.h"
 #include "clipboard_text.h"
 #include "little_memory.h"
+#include "text_encoding.h"
 
 namespace mivo {
 namespace {
@@ -46,6 +52,22 @@ TEST(ClipboardMemory, APinThatDoesNotFitIsNotPasted) {
               return std::holds_alternative<std::monostate>(content) ? "refused" : "pasted";
             }),
             "refused");
+}
+
+TEST(ClipboardMemory, ObjectsStayInTheBudget) {
+  if (kHasSanitizer) GTEST_SKIP() << "too slow, and would count the same";
+  constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+  for (const std::u16string_view record :
+       {u"+L,-L,", u"+C,-C,", u"+AR,-AR,", u"+PG,N:3,X:0,Y:0,X:1,Y:1,X:2,Y:0,-PG,",
+        u"+TX,X:0,Y:0,S:A,FS:8,-TX,"}) {
+    const std::u16string text =
+        Repeated(u"+MIVO_PTN_V.1.0\n", record, static_cast<int>(16 * kMegabyte / record.size()));
+    const AllocationMeter meter;
+    const ClipboardContent content = ReadClipboardText(text, 1);
+    ASSERT_TRUE(std::holds_alternative<PatternText>(content));
+    EXPECT_LE(meter.Peak(), 64 * kMegabyte + 12 * text.size() * sizeof(char16_t))
+        << Utf16ToUtf8(record);
+  }
 }
 
 }  // namespace
