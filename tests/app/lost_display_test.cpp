@@ -87,7 +87,7 @@ TEST_F(LostDisplayTest, UnsavedWorkIsOfferedAtTheNextStart) {
   StartedProgram display(
       {"Xvfb", "-displayfd", "3", "-screen", "0", "800x600x24", "-nolisten", "tcp"}, {});
   const std::string number = display.ReadLine();
-  if (number.empty()) GTEST_SKIP() << "there is no Xvfb";
+  ASSERT_FALSE(number.empty()) << "there is no Xvfb";
   // Under the sanitizers: the system's keyboard library copies strings that end without a NUL.
   StartedProgram mivo(
       {MIVO_LOST_DISPLAY_PROGRAM, PathOf("parts.ZLB").toStdString()},

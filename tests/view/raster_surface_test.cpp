@@ -229,7 +229,7 @@ TEST_F(RasterSurfaceTest, ImagesAreCutOffAtTheEdges) {
       ............)"));
 }
 
-// Each call with coordinates from one end of the range to the other: nothing but time to lose.
+// Each call with coordinates from one end of the range to the other: all that it may do is paint.
 TEST_F(RasterSurfaceTest, AnyCoordinatesAreHarmless) {
   const RasterImage picture = WhiteImage({5, 5});
   const std::array<std::int32_t, 7> ends = {kSmallest, kSmallest + 1, -1000000, 0,
@@ -260,7 +260,18 @@ TEST_F(RasterSurfaceTest, AnyCoordinatesAreHarmless) {
       }
     }
   }
-  SUCCEED();
+  surface_.SetOrigin({0, 0});
+  surface_.FillRect({0, 0, 12, 8}, {255, 255, 255});
+  surface_.Line({1, 1}, {5, 1}, kThin);
+  EXPECT_EQ(Art(), Picture(R"(
+      ............
+      .#####......
+      ............
+      ............
+      ............
+      ............
+      ............
+      ............)"));
 }
 
 TEST_F(RasterSurfaceTest, AnEllipseLargerThanItsRingIsCutOffCorrectly) {
