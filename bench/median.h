@@ -3,9 +3,26 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <vector>
 
 namespace mivo::bench {
+
+/// How long `work` takes, in milliseconds.
+template <typename Work>
+[[nodiscard]] double Milliseconds(Work work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+/// The middle one of `values`, of which there is at least one.
+[[nodiscard]] inline double Median(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
 
 /// The median time of several runs of `work`, which gets the number of the run, in milliseconds.
 template <typename Work>
@@ -13,14 +30,9 @@ template <typename Work>
   constexpr int kRounds = 9;
   std::vector<double> times;
   for (int round = 0; round < kRounds; ++round) {
-    const auto start = std::chrono::steady_clock::now();
-    work(round);
-    const std::chrono::duration<double, std::milli> elapsed =
-        std::chrono::steady_clock::now() - start;
-    times.push_back(elapsed.count());
+    times.push_back(Milliseconds([&] { work(round); }));
   }
-  std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-  return times[kRounds / 2];
+  return Median(times);
 }
 
 }  // namespace mivo::bench

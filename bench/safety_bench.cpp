@@ -2,11 +2,8 @@
 // the same without it, and a save with its safety copy against the same without one. Wall-clock
 // time, since writing is part of it.
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,6 +11,7 @@
 #include "file_writer.h"
 #include "generated_library.h"
 #include "library_guard.h"
+#include "median.h"
 #include "path_text.h"
 #include "recovery_journal.h"
 #include "table_row.h"
@@ -24,18 +22,6 @@ namespace {
 constexpr int kComponents = 1000;
 constexpr int kRounds = 200;
 constexpr int kSaves = 40;
-
-double Milliseconds(const std::function<void()>& what) {
-  const auto begin = std::chrono::steady_clock::now();
-  what();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin)
-      .count();
-}
-
-double Median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
 
 /// No operation may take that much longer, in milliseconds.
 constexpr double kMostAdded = 5;

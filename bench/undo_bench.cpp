@@ -1,7 +1,6 @@
 // Cost of undo in a large document, beside filling and copying a 3840 × 2160 image in the same run.
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -9,6 +8,7 @@
 
 #include "comp_edit_doc.h"
 #include "component.h"
+#include "median.h"
 #include "ptn_obj_line.h"
 #include "table_row.h"
 
@@ -19,21 +19,6 @@ constexpr std::size_t kElements = 10'000;
 constexpr int kOperations = 1'000;
 constexpr int kTracelessPicks = 1'000;
 constexpr std::size_t kImagePixels = 3840 * 2160;
-
-template <typename Work>
-double Milliseconds(Work work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  const std::chrono::duration<double, std::milli> elapsed =
-      std::chrono::steady_clock::now() - start;
-  return elapsed.count();
-}
-
-double Median(std::vector<double>& values) {
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::nth_element(values.begin(), middle, values.end());
-  return *middle;
-}
 
 double FillAndCopy() {
   std::vector<std::uint32_t> image(kImagePixels);

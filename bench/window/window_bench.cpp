@@ -8,7 +8,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -19,6 +18,7 @@
 #include "file_byte_sink.h"
 #include "generated_library.h"
 #include "measured_process.h"
+#include "median.h"
 #include "table_row.h"
 
 namespace mivo::bench {
@@ -104,8 +104,7 @@ void MeasureOpen(const std::string& folder) {
     std::ifstream(result) >> seconds;
     open.push_back(seconds);
   }
-  std::sort(open.begin(), open.end());
-  const double seconds = open[open.size() / 2];
+  const double seconds = Median(open);
   PrintRow({"open 100,000 components in the running window", 1000 * seconds, "ms",
             seconds / MedianCost(list).cpuSeconds, "mivo-cli list", 1.5});
 }
@@ -116,6 +115,10 @@ void MeasureOpen(const std::string& folder) {
 int main() {
   std::string folder = std::filesystem::temp_directory_path() / "mivo-bench-XXXXXX";
   if (mkdtemp(folder.data()) == nullptr) return 1;
+  // Neither the user's settings nor what is there to recover may have a part in it.
+  for (const char* const name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+    setenv(name, folder.c_str(), 1);
+  }
   static const mivo::bench::Display display;  // ends also when a measurement fails
   mivo::bench::MeasureStart();
   mivo::bench::MeasureOpen(folder);
