@@ -25,7 +25,7 @@ if(MIVO_SANITIZE)
   target_link_options(mivo_build_flags INTERFACE ${_mivo_sanitizers})
 endif()
 
-# mivo_library(NAME SOURCES <cpp...> HEADERS <h...> LINK <targets...>)
+# mivo_library(NAME SOURCES <cpp...> HEADERS <h...> LINK <targets...> [PRIVATE_LINK <targets...>])
 #
 # A folder of src/ as a static library. Its include path is the folder itself and is passed on only
 # to those who link it, so an include that reaches upwards does not compile.

@@ -23,7 +23,7 @@ class SPtn {
   SPtn& operator=(const SPtn& other);
   SPtn(SPtn&&) noexcept = default;
   SPtn& operator=(SPtn&&) noexcept = default;
-  virtual ~SPtn() = default;
+  ~SPtn() = default;
 
   /// Reads the fields behind "+PTN". Drawing objects that cannot be read are dropped; false when
   /// the pattern itself is malformed or its bit pattern does not fit into `budget`.

@@ -14,7 +14,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, GLib
 
 LIBRARY = """+TARSL_LIB_V.1.0
 VER:82

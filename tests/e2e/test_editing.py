@@ -33,7 +33,7 @@ def test_a_sample_is_edited_and_undone(start, sample, folder):
     assert not mivo.is_enabled("Edit", "Undo")
 
     steps = [move_a_line, mirror_and_rotate_what_a_band_holds, edit_nodes_of_a_polygon,
-             bend_a_line, move_a_pin, delete_a_line]  # fmt: skip
+             bend_a_line, move_a_pin, delete_a_line]
     for step in steps:
         step(mivo, drawing)
         mivo.press("Esc")

@@ -4,8 +4,8 @@ import re
 
 import pytest
 from conftest import GERMAN
-from test_keyboard import every_control_has_a_name, test_everything_by_keyboard  # noqa: F401 - once more in German
-from test_newcomer import test_a_newcomer_makes_a_library  # noqa: F401
+from test_keyboard import every_control_has_a_name, test_everything_by_keyboard  # once more in German
+from test_newcomer import test_a_newcomer_makes_a_library
 
 # What a control's name may hold beside words: values, not texts.
 VALUE = re.compile(r"[\d\W]*")

@@ -165,7 +165,7 @@ std::string RunWithSmallDisk(const fs::path& folder, const std::function<std::st
   });
 }
 
-/// The content of a file in one letter per kind: "old" and "new" are what the test wrote.
+/// "old" when the file is still as the test wrote it.
 std::string KindOf(const fs::path& path, std::size_t oldSize) {
   const std::string bytes = BytesOf(path);
   if (bytes == std::string(oldSize, 'o')) return "old";

@@ -12,8 +12,8 @@ import pytest
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tests/e2e"))
 
-from driver.desktop import Desktop  # noqa: E402
-from driver.waiting import wait_until  # noqa: E402
+from driver.desktop import Desktop
+from driver.waiting import wait_until
 
 BUILD = Path(os.environ.get("MIVO_BUILD", ROOT / "build-windows")).resolve()
 UNDER_WINE = ROOT / "packaging/windows/under-wine"

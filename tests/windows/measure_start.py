@@ -14,9 +14,9 @@ from pathlib import Path
 
 os.environ["MIVO_BUILD"] = sys.argv[1]
 
-from conftest import BUILD, UNDER_WINE, end_windows, environment_on  # noqa: E402
-from driver.desktop import SCREEN, Desktop  # noqa: E402
-from driver.waiting import wait_until  # noqa: E402
+from conftest import BUILD, UNDER_WINE, end_windows, environment_on
+from driver.desktop import SCREEN, Desktop
+from driver.waiting import wait_until
 
 ROUNDS = 7
 LIMIT = 1.5
@@ -42,7 +42,7 @@ class Program:
         process = subprocess.Popen(
             [UNDER_WINE, *self._command], cwd=self._folder, env=environment_on(self._desktop),
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-        )  # fmt: skip
+        )
 
         def shows():
             assert process.poll() is None, f"{self._command} ended"
@@ -68,18 +68,21 @@ class Program:
 def main():
     folder = Path(tempfile.mkdtemp(prefix="mivo-start."))
     desktop = Desktop(folder)
-    empty = Program(desktop, folder, "Empty window", BUILD / "bench/programs/bare_window.exe", "stay")
-    mivo = Program(desktop, folder, "Mivo", shutil.copy(BUILD / "bin/mivo.exe", folder))
-    for _ in range(1 + ROUNDS):  # the first start of all starts Wine as well
-        empty.start()
-        mivo.start()
-    end_windows(desktop)
-    desktop.end()
-    shutil.rmtree(folder)
+    try:
+        empty = Program(desktop, folder, "Empty window", BUILD / "bench/programs/bare_window.exe", "stay")
+        mivo = Program(desktop, folder, "Mivo", shutil.copy(BUILD / "bin/mivo.exe", folder))
+        for _ in range(1 + ROUNDS):  # the first start of all starts Wine as well
+            empty.start()
+            mivo.start()
+    finally:
+        end_windows(desktop)
+        desktop.end()
+        shutil.rmtree(folder)
     least, own = (statistics.median(program.seconds) for program in (empty, mivo))
     verdict = "within" if own <= LIMIT * least else "ABOVE"
     print(f"Start under Wine: {own / least:.2f} times an empty window ({own:.2f} s against {least:.2f} s, medians of "
-          f"{ROUNDS}), {verdict} the limit of {LIMIT}.")  # fmt: skip
+          f"{ROUNDS}), {verdict} the limit of {LIMIT}.")
+    return own <= LIMIT * least
 
 
-main()
+sys.exit(0 if main() else 1)

@@ -34,7 +34,7 @@ ANNOUNCEMENT = """<node>
 DAEMON = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
 LIMIT_MS = 60_000
 MISSING = ("UnknownObject", "UnknownMethod", "UnknownInterface", "NoReply", "NameHasNoOwner",
-           "ServiceUnknown", "Disconnected", "AccessDenied")  # fmt: skip
+           "ServiceUnknown", "Disconnected", "AccessDenied")
 
 
 class Bus:

@@ -121,5 +121,5 @@ class Dialog:
 
     def _file_field(self):
         fields = [each for each in self.control.walk(skip=("list", "table", "tree table", "combo box", "tree"))
-                  if each.role == "text" and each.has("showing")]  # fmt: skip
+                  if each.role == "text" and each.has("showing")]
         return fields[0] if fields else None

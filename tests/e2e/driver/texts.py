@@ -14,7 +14,7 @@ class Texts:
     def __init__(self, list_program, library, is_translated):
         lines = subprocess.run([list_program, library], check=True, capture_output=True, text=True).stdout
         pairs = [[text.encode().decode("unicode_escape").encode("latin1").decode() for text in line.split("\t")]
-                 for line in lines.splitlines()]  # fmt: skip
+                 for line in lines.splitlines()]
         assert pairs, "The program has no texts."
         self._shown = {}
         for english, translated in pairs:
