@@ -20,6 +20,9 @@ class SessionEnd::Watch final : public QAbstractNativeEventFilter {
 
   bool nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr* result) override {
     const MSG& msg = *static_cast<const MSG*>(message);
+    if (msg.message == WM_ENDSESSION && msg.wParam != FALSE && std::exchange(mayEndNow_, false)) {
+      window_.close();  // the system ends the program without
+    }
     if (msg.message != WM_QUERYENDSESSION) return false;
     // Every window of the program is asked in turn, and once more while the question is shown.
     const HWND window = reinterpret_cast<HWND>(window_.winId());
@@ -35,15 +38,16 @@ class SessionEnd::Watch final : public QAbstractNativeEventFilter {
     // show.
     ShutdownBlockReasonCreate(window,
                               reinterpret_cast<const wchar_t*>(window_.windowTitle().utf16()));
-    const bool may = mayEnd_(true);
+    mayEndNow_ = mayEnd_(true);
     ShutdownBlockReasonDestroy(window);
     isAsking_ = false;
-    return may;
+    return mayEndNow_;
   }
 
   QWidget& window_;
   std::function<bool(bool)> mayEnd_;
   bool isAsking_ = false;
+  bool mayEndNow_ = false;
 };
 
 SessionEnd::SessionEnd(QWidget& window, std::function<bool(bool)> mayEnd)

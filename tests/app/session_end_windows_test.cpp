@@ -13,11 +13,12 @@ namespace mivo {
 namespace {
 
 /// What the program answers when the system sends `message` to `window`; nothing when it leaves the
-/// answer to the system.
-std::optional<qintptr> Answer(const QWidget& window, UINT message) {
+/// answer to the system. `isMeant` says whether an end of the session really comes.
+std::optional<qintptr> Answer(const QWidget& window, UINT message, bool isMeant = false) {
   MSG msg{};
   msg.hwnd = reinterpret_cast<HWND>(window.winId());
   msg.message = message;
+  msg.wParam = isMeant ? TRUE : FALSE;
   qintptr result = -1;
   const bool answered =
       QAbstractEventDispatcher::instance()->filterNativeEvent("windows_generic_MSG", &msg, &result);
@@ -69,6 +70,26 @@ TEST(SessionEnd, AsksAgainAfterItWasCalledOff) {
   EXPECT_EQ(Answer(window, WM_QUERYENDSESSION), FALSE);
   may = true;
   EXPECT_EQ(Answer(window, WM_QUERYENDSESSION), TRUE);
+}
+
+TEST(SessionEnd, ClosesTheWindowOnceItComes) {
+  QWidget window;
+  window.show();
+  const SessionEnd end(window, [](bool) { return true; });
+  EXPECT_EQ(Answer(window, WM_QUERYENDSESSION), TRUE);
+  EXPECT_EQ(Answer(window, WM_ENDSESSION, false), std::nullopt);
+  EXPECT_TRUE(window.isVisible()) << "another program called it off";
+  EXPECT_EQ(Answer(window, WM_ENDSESSION, true), std::nullopt);
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST(SessionEnd, ClosesNothingThatMayNotEnd) {
+  QWidget window;
+  window.show();
+  const SessionEnd end(window, [](bool) { return false; });
+  EXPECT_EQ(Answer(window, WM_QUERYENDSESSION), FALSE);
+  EXPECT_EQ(Answer(window, WM_ENDSESSION, true), std::nullopt);
+  EXPECT_TRUE(window.isVisible());
 }
 
 TEST(SessionEnd, LeavesOtherMessagesAlone) {

@@ -222,8 +222,10 @@ def test_closing_asks_about_changes(desktop, start, sample):
     assert path.read_bytes() == original
 
 
-def test_the_end_of_the_session_asks_about_changes(desktop, start, run, sample):
+@pytest.mark.parametrize("answer", ["y", "n"])
+def test_the_end_of_the_session_asks_about_changes(desktop, start, run, sample, answer):
     path = sample("standard.ZLB")
+    original = path.read_bytes()
     mivo = start(path.name, title=title_of(path))
     delete_a_pin(desktop, start)
     session_end = run("wineboot", "--end-session")
@@ -235,9 +237,13 @@ def test_the_end_of_the_session_asks_about_changes(desktop, start, run, sample):
 
     run("wineboot", "--end-session")
     mivo.wait_window(QUESTION)
-    desktop.input.press("y")
+    desktop.input.press(answer)
     mivo.wait_end()
-    assert path.read_bytes().count(b"+PIN,") == sample("standard.ZLB").read_bytes().count(b"+PIN,") - 1
+    if answer == "y":
+        assert lacks_one_pin(path, original)
+    else:
+        assert path.read_bytes() == original
+    assert not list(start.state.glob("recovery/*")), "nothing is left to restore"
 
 
 def test_a_file_that_another_program_has_open_stays(desktop, start, run, sample):
