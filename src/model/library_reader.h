@@ -8,6 +8,7 @@
 #include <tsl/robin_map.h>
 
 #include "mivo_doc.h"
+#include "name_hash.h"
 
 namespace mivo {
 
@@ -35,7 +36,7 @@ class LibraryReader {
   SRecordReader& reader_;
   // The first pattern of each name, which is the pattern's own. Components share it until one of
   // them is edited.
-  tsl::robin_map<std::u16string_view, std::shared_ptr<SPtn>> patterns_;
+  tsl::robin_map<std::u16string_view, std::shared_ptr<SPtn>, NameHash> patterns_;
   BitPatternBudget bitPatternBudget_;
   SComponent::ReadContext component_;
 };

@@ -62,7 +62,7 @@ std::u16string NameIndex::UniqueName(std::u16string_view name) {
 std::int32_t NameIndex::FirstFree(std::u16string_view base, std::int32_t start) {
   // Every number found taken gets a link to the next one worth trying, and links passed are
   // shortened, so that a thousand components of one name cost no more than a thousand names.
-  std::unordered_map<std::int32_t, std::int32_t>& next = taken_[std::u16string(base)];
+  std::map<std::int32_t, std::int32_t>& next = taken_[std::u16string(base)];
   const std::int32_t first = WrapAdd(start, 1);
   const auto withinAttempts = [start](std::int32_t number) {
     return static_cast<std::uint32_t>(WrapSub(number, start)) <= std::uint32_t{kMaxAttempts};

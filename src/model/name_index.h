@@ -3,14 +3,15 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include <tsl/robin_set.h>
 
+#include "name_hash.h"
 #include "record_reader.h"
 
 namespace mivo {
@@ -76,11 +77,9 @@ class NameIndex {
   void Forget(const NameEntry& entry);
 
   std::vector<std::unique_ptr<NameEntry>> entries_;
-  struct NameHash {
+  struct EntryHash : NameHash {
     using is_transparent = void;
-    std::size_t operator()(std::u16string_view name) const noexcept {
-      return std::hash<std::u16string_view>()(name);
-    }
+    using NameHash::operator();
     std::size_t operator()(const NameEntry* entry) const noexcept {
       return operator()(entry->Name());
     }
@@ -93,10 +92,11 @@ class NameIndex {
   };
 
   // The first entry of each name. With the hashes, which spare a look at most other names.
-  tsl::robin_set<NameEntry*, NameHash, SameName, std::allocator<NameEntry*>, true> byName_;
+  tsl::robin_set<NameEntry*, EntryHash, SameName, std::allocator<NameEntry*>, true> byName_;
   // For each base name: numbers with which the name is known to be taken, each with a later number
   // that may be free; everything between the two is taken as well. Only additions keep this true.
-  std::unordered_map<std::u16string, std::unordered_map<std::int32_t, std::int32_t>> taken_;
+  // Ordered, since a file chooses the names and numbers, and could choose those that share a hash.
+  std::map<std::u16string, std::map<std::int32_t, std::int32_t>, std::less<>> taken_;
 };
 
 }  // namespace mivo

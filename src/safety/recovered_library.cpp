@@ -1,6 +1,7 @@
 #include "recovered_library.h"
 
 #include <algorithm>
+#include <map>
 #include <system_error>
 #include <unordered_map>
 #include <utility>
@@ -55,7 +56,7 @@ void FillDoc(NumberedLibrary library, SMivoDoc& doc) {
 
 /// Names with what they stand for, and the first name of what they are an alias of.
 struct Listing {
-  std::unordered_map<std::u16string_view, std::string> components;
+  std::map<std::u16string_view, std::string> components;  // a file chooses these names
   std::vector<std::pair<std::u16string_view, std::u16string_view>> arrangement;
 };
 

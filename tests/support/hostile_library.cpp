@@ -1,5 +1,12 @@
 #include "hostile_library.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+#include "text_encoding.h"
+
 namespace mivo {
 namespace {
 
@@ -29,6 +36,37 @@ std::string InComponent(const std::string& records) {
 
 std::string InPattern(const std::string& records) {
   return "+PTN,N:p,X:1,Y:1," + records + "-PTN,+COMP,N:A,P:p,X:1,Y:1,B:1,-COMP,";
+}
+
+/// Components whose names all have the same std::hash in the GNU library, which is MurmurHash64A
+/// with a key that everybody knows: for any first half of a name there is a second one that leads
+/// to the wanted state.
+std::string ComponentsOfOneHash(std::size_t bytes) {
+  constexpr std::uint64_t kFactor = 0xC6A4A7935BD1E995;
+  constexpr std::uint64_t kInverse = [] {
+    std::uint64_t inverse = 1;
+    for (int i = 0; i < 6; ++i) inverse *= 2 - kFactor * inverse;
+    return inverse;
+  }();
+  constexpr std::uint64_t kStart = 0xC70F6907 ^ 16 * kFactor;
+  constexpr std::uint64_t kWanted = 0;
+  const auto shifted = [](std::uint64_t value) { return value ^ value >> 47; };  // undoes itself
+  const auto isPlain = [](char16_t c) { return c > 0x7F && c < 0xFFFE && (c & 0xF800) != 0xD800; };
+  std::string result;
+  for (std::uint32_t n = 0; result.size() < bytes; ++n) {
+    const std::array<char16_t, 4> first = {static_cast<char16_t>(0x4000 + n % 0x1000),
+                                           static_cast<char16_t>(0x4000 + n / 0x1000), u'A', u'A'};
+    std::uint64_t word;
+    std::memcpy(&word, first.data(), sizeof word);
+    const std::uint64_t state = (kStart ^ shifted(word * kFactor) * kFactor) * kFactor;
+    word = shifted((state ^ kWanted) * kInverse) * kInverse;
+    std::array<char16_t, 4> second;
+    std::memcpy(second.data(), &word, sizeof word);
+    if (!std::all_of(second.begin(), second.end(), isPlain)) continue;
+    result += "+COMP,N:" + Utf16ToUtf8({first.data(), first.size()}) +
+              Utf16ToUtf8({second.data(), second.size()}) + ",X:1,Y:1,B:1,-COMP,";
+  }
+  return result;
 }
 
 }  // namespace
@@ -70,6 +108,7 @@ const std::vector<HostileCase>& HostileCases() {
        [](std::size_t bytes) {
          return Repeated("+COMP,N:R,X:1,Y:1,B:1,-COMP,+COMP,N:R(1),X:1,Y:1,B:1,-COMP,", bytes);
        }},
+      {"ComponentsOfOneHash", ComponentsOfOneHash},
       {"ComponentsWithOnePattern",
        [](std::size_t bytes) {
          return "+PTN,N:p,X:501,Y:501,-PTN," + Repeated("+COMP,N:R,P:p,X:1,Y:1,B:1,-COMP,", bytes);

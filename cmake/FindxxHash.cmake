@@ -1,0 +1,11 @@
+# xxHash as a header, for which Debian has no CMake file of its own.
+if(WIN32)
+  include(HostHeaders)
+  mivo_host_headers(xxHash::xxhash xxhash.h)
+else()
+  find_path(xxHash_INCLUDE_DIR xxhash.h REQUIRED)
+  mark_as_advanced(xxHash_INCLUDE_DIR)
+  add_library(xxHash::xxhash INTERFACE IMPORTED)
+  target_include_directories(xxHash::xxhash INTERFACE ${xxHash_INCLUDE_DIR})
+endif()
+set(xxHash_FOUND TRUE)
