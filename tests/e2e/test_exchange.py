@@ -228,3 +228,19 @@ def test_clipboards_that_hold_something_else(source, desktop):
     desktop.clipboard.put("")
     try_to_paste(False, False)
     source.quit_without_saving()
+
+
+def test_an_owner_that_never_answers(source, desktop):
+    """The window waits for as long as the toolkit does, once, and goes on."""
+    desktop.clipboard.be_silent()
+    wait_until(lambda: desktop.clipboard.unanswered > 0, "the window to ask what is on the clipboard")
+    source.press("Ctrl+v")
+    names = source.names
+    source.choose(names[3])
+    asked = desktop.clipboard.unanswered
+    for name in names[:3]:
+        source.choose(name)
+    assert desktop.clipboard.unanswered == asked
+    desktop.clipboard.put(PIN_TEXT.format(PIN_A))
+    wait_until(lambda: source.is_enabled("Edit", "Paste"), "the next owner's pin")
+    source.quit()

@@ -2,6 +2,9 @@
 
 import subprocess
 
+import Xlib.display
+from Xlib import X
+
 from .process import start_process
 
 TEXT = "UTF8_STRING"
@@ -13,6 +16,20 @@ class Clipboard:
     def __init__(self, desktop):
         self._desktop = desktop
         self._owner = None
+        self._silent = None
+
+    def be_silent(self):
+        """Owns the clipboard and answers nobody who asks what is on it."""
+        self.let_go()
+        self._silent = Xlib.display.Display(self._desktop.name)
+        owner = self._silent.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        owner.set_selection_owner(self._silent.intern_atom("CLIPBOARD"), X.CurrentTime)
+        self._silent.sync()
+
+    @property
+    def unanswered(self):
+        """How often somebody has asked since then."""
+        return self._silent.pending_events()
 
     def put(self, content, target=TEXT):
         """Owns the clipboard with this content until the next owner comes."""
@@ -43,6 +60,9 @@ class Clipboard:
         return result.stdout.decode() if target == TEXT else result.stdout
 
     def let_go(self):
+        if self._silent is not None:
+            self._silent.close()
+            self._silent = None
         if self._owner is not None:
             self._owner.kill()
             self._owner.wait()
