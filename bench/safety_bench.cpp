@@ -27,7 +27,7 @@ constexpr int kSaves = 40;
 constexpr double kMostAdded = 5;
 
 void Print(const char* what, double without, double with) {
-  const std::string name = std::string("safety, 1,000 components: ") + what;
+  const std::string name = std::string("safety: ") + what;
   PrintRow({name, with, "ms", with / without, "without safety"});
   PrintRow(
       {.what = name + ", added", .measured = with - without, .unit = "ms", .limit = kMostAdded});
@@ -92,7 +92,7 @@ void MeasureOperations(const std::string& content, const std::filesystem::path& 
     }
   }
   journal.Discard();
-  Print("first operation after opening or saving", Median(without), Median(first));
+  Print("first operation after a save", Median(without), Median(first));
   Print("any other operation", Median(without), Median(with));
 }
 

@@ -116,7 +116,8 @@ int main() {
   std::string folder = std::filesystem::temp_directory_path() / "mivo-bench-XXXXXX";
   if (mkdtemp(folder.data()) == nullptr) return 1;
   // Neither the user's settings nor what is there to recover may have a part in it.
-  for (const char* const name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+  for (const char* const name :
+       {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"}) {
     setenv(name, folder.c_str(), 1);
   }
   static const mivo::bench::Display display;  // ends also when a measurement fails
