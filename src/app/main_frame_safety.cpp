@@ -48,10 +48,11 @@ void CMainFrame::RecordChanges() {
 }
 
 bool CMainFrame::OfferRecovery(const QString& onlyOf) {
-  const std::filesystem::path only = CanonicalPath(PathFromText(ToText(onlyOf)));
+  std::filesystem::path only;
+  if (!onlyOf.isEmpty()) only = CanonicalPath(PathFromText(ToText(onlyOf)));
   for (FoundRecovery& found : guard_.FindRecoveries()) {
     const std::optional<std::u16string>& path = found.library.file.path;
-    if (!onlyOf.isEmpty() && (!path || CanonicalPath(PathFromText(*path)) != only)) continue;
+    if (!only.empty() && (!path || CanonicalPath(PathFromText(*path)) != only)) continue;
     switch (prompts_->AskRecovery(RecoveryQuestion(found))) {
       case RecoveryAnswer::Restore:
         Restore(found);

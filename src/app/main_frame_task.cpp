@@ -3,7 +3,6 @@
 
 #include <QFileInfo>
 #include <QScopeGuard>
-#include <system_error>
 #include <utility>
 
 #include "file_source.h"

@@ -71,12 +71,6 @@ class NameIndex {
   }
 
  private:
-  /// The first number behind `start` with which `base` is free.
-  std::int32_t FirstFree(std::u16string_view base, std::int32_t start);
-  /// Takes the entry's name out of the search structures.
-  void Forget(const NameEntry& entry);
-
-  std::vector<std::unique_ptr<NameEntry>> entries_;
   struct EntryHash : NameHash {
     using is_transparent = void;
     using NameHash::operator();
@@ -91,6 +85,12 @@ class NameIndex {
     bool operator()(const auto& a, const auto& b) const noexcept { return NameOf(a) == NameOf(b); }
   };
 
+  /// The first number behind `start` with which `base` is free.
+  std::int32_t FirstFree(std::u16string_view base, std::int32_t start);
+  /// Takes the entry's name out of the search structures.
+  void Forget(const NameEntry& entry);
+
+  std::vector<std::unique_ptr<NameEntry>> entries_;
   // The first entry of each name. With the hashes, which spare a look at most other names.
   tsl::robin_set<NameEntry*, EntryHash, SameName, std::allocator<NameEntry*>, true> byName_;
   // For each base name: numbers with which the name is known to be taken, each with a later number

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "canonical_path.h"
+#include "file_source.h"
 #include "file_writer.h"
 #include "path_text.h"
 #include "read_file.h"
@@ -57,8 +58,9 @@ void LibraryGuard::Opened(const LibraryView& library, const ContentIdentity& con
 
 bool LibraryGuard::HasChangedOnDisk(std::u16string_view path) const {
   if (!IsFile(path)) return false;
-  const FileResult<std::string> content = ReadFile(PathFromText(path));
-  return content.Ok() && IdentityOf(content.Value()) != file_.identity;
+  FileSource file(PathFromText(path));
+  const ContentIdentity identity = IdentifyingSource(file).IdentityOfAll();
+  return file.Error().empty() && identity != file_.identity;
 }
 
 LibraryGuard::SaveResult LibraryGuard::Save(const LibraryView& library, std::u16string_view path,
